@@ -1,0 +1,15 @@
+/* All declaration lists of libzelip8, one file a family group. No include
+   guard: the file is read once for every meaning given to ZEL_FN. */
+#include "zelip8/fn_memory.h"
+#include "zelip8/fn_copy.h"
+#include "zelip8/fn_addsub.h"
+#include "zelip8/fn_mul.h"
+#include "zelip8/fn_div.h"
+#include "zelip8/fn_convert.h"
+#include "zelip8/fn_border.h"
+#include "zelip8/fn_reorder.h"
+#include "zelip8/fn_compare.h"
+#include "zelip8/fn_sum.h"
+#include "zelip8/fn_minmax.h"
+#include "zelip8/fn_norm.h"
+#include "zelip8/fn_hist.h"

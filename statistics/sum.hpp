@@ -28,17 +28,7 @@ namespace zel {
 
 // ---- Exact integer sums ----------------------------------------------------
 
-// Widens the samples of one 16-byte vector to 32-bit lanes, four at a time.
-// Returns the number of lane vectors written to `out`.
-inline int widen32(__m128i v, Zel8u, __m128i* out) {
-    const __m128i z = _mm_setzero_si128();
-    const __m128i lo = _mm_unpacklo_epi8(v, z), hi = _mm_unpackhi_epi8(v, z);
-    out[0] = _mm_unpacklo_epi16(lo, z);
-    out[1] = _mm_unpackhi_epi16(lo, z);
-    out[2] = _mm_unpacklo_epi16(hi, z);
-    out[3] = _mm_unpackhi_epi16(hi, z);
-    return 4;
-}
+// Widens the eight samples of one 16-byte vector to two vectors of 32-bit lanes.
 inline int widen32(__m128i v, Zel16u, __m128i* out) {
     const __m128i z = _mm_setzero_si128();
     out[0] = _mm_unpacklo_epi16(v, z);
@@ -51,37 +41,71 @@ inline int widen32(__m128i v, Zel16s, __m128i* out) {
     return 2;
 }
 
-// 32-bit lanes of one vector group: lane vector g, lane j holds channel
-// (4g + j) % MC. Three channels need three lane vectors to repeat.
+// Positional 32-bit lanes: lane j of vector m holds sample 4m + j of a period
+// of kP samples, which is whole vectors and whole pixels, so the channel of a
+// lane is (4m + j) % MC.
 template <class T, int MC>
 struct IntLanes {
-    static constexpr int kG = MC == 3 ? 3 : 1;             // lane vectors
     static constexpr int kV = 16 / int(sizeof(T));         // samples a load
     static constexpr int kP = MC == 3 ? 3 * kV : kV;       // samples a period
-    __m128i acc[kG];
+    static constexpr int kW = kP / 4;                      // 32-bit vectors
+    __m128i acc[kW];
 
     IntLanes() { clear(); }
     void clear() {
-        for (int g = 0; g < kG; ++g) acc[g] = _mm_setzero_si128();
+        for (int m = 0; m < kW; ++m) acc[m] = _mm_setzero_si128();
     }
-    // Adds one period starting at p.
-    void add(const T* p) {
-        __m128i w[4];
-        int g = 0;
-        for (int k = 0; k < kP / kV; ++k) {
-            const int n = widen32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p + k * kV)), T(), w);
-            for (int i = 0; i < n; ++i, g = (g + 1 == kG ? 0 : g + 1)) acc[g] = _mm_add_epi32(acc[g], w[i]);
+    // Adds `periods` periods starting at p.
+    void run(const T* p, int periods) {
+        constexpr int K = kP / kV;
+        if constexpr (sizeof(T) == 1) {
+            // Bytes first add up in 16-bit lanes, 256 periods at most
+            // (256 * 255 fits), then widen into the 32-bit lanes.
+            const __m128i z = _mm_setzero_si128();
+            while (periods > 0) {
+                const int n = periods < 256 ? periods : 256;
+                __m128i a[2 * K];
+#pragma GCC unroll 6
+                for (int q = 0; q < 2 * K; ++q) a[q] = z;
+                for (int i = 0; i < n; ++i, p += kP)
+#pragma GCC unroll 3
+                    for (int k = 0; k < K; ++k) {
+                        const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + k * 16));
+                        a[2 * k] = _mm_add_epi16(a[2 * k], _mm_unpacklo_epi8(v, z));
+                        a[2 * k + 1] = _mm_add_epi16(a[2 * k + 1], _mm_unpackhi_epi8(v, z));
+                    }
+#pragma GCC unroll 6
+                for (int q = 0; q < 2 * K; ++q) {
+                    acc[2 * q] = _mm_add_epi32(acc[2 * q], _mm_unpacklo_epi16(a[q], z));
+                    acc[2 * q + 1] = _mm_add_epi32(acc[2 * q + 1], _mm_unpackhi_epi16(a[q], z));
+                }
+                periods -= n;
+            }
+        } else {
+            __m128i a[kW];
+#pragma GCC unroll 6
+            for (int m = 0; m < kW; ++m) a[m] = acc[m];
+            for (int i = 0; i < periods; ++i, p += kP)
+#pragma GCC unroll 3
+                for (int k = 0; k < K; ++k) {
+                    __m128i w[2];
+                    widen32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p + k * kV)), T(), w);
+                    a[2 * k] = _mm_add_epi32(a[2 * k], w[0]);
+                    a[2 * k + 1] = _mm_add_epi32(a[2 * k + 1], w[1]);
+                }
+#pragma GCC unroll 6
+            for (int m = 0; m < kW; ++m) acc[m] = a[m];
         }
     }
     // Moves the lanes into the 64-bit totals and clears them. Lanes are read
     // as signed for 16s and as unsigned otherwise.
     void flush(long long* total) {
-        for (int g = 0; g < kG; ++g) {
+        for (int m = 0; m < kW; ++m) {
             alignas(16) std::int32_t s[4];
-            _mm_store_si128(reinterpret_cast<__m128i*>(s), acc[g]);
+            _mm_store_si128(reinterpret_cast<__m128i*>(s), acc[m]);
             for (int j = 0; j < 4; ++j) {
                 const long long v = std::is_signed<T>::value ? (long long)s[j] : (long long)std::uint32_t(s[j]);
-                total[(4 * g + j) % MC] += v;
+                total[(4 * m + j) % MC] += v;
             }
         }
         clear();
@@ -93,15 +117,15 @@ struct IntLanes {
 // 16s images, whose whole sum fits the 32-bit lanes).
 template <class T, int MC>
 inline void sum_row_int(const T* p, int n, long long* total, IntLanes<T, MC>& lanes, int block, bool keep) {
-    using Ln = IntLanes<T, MC>;
-    int i = 0;
-    while (n - i >= Ln::kP) {
-        const int end = i + ((n - i) / Ln::kP) * Ln::kP;
-        const int stop = end - i > block ? i + block / Ln::kP * Ln::kP : end;
-        for (; i < stop; i += Ln::kP) lanes.add(p + i);
-        if (i < end || !keep) lanes.flush(total);
+    constexpr int P = IntLanes<T, MC>::kP;
+    const int periods = n / P, chunk = block / P;
+    for (int i = 0; i < periods;) {
+        const int k = periods - i < chunk ? periods - i : chunk;
+        lanes.run(p + i * P, k);
+        i += k;
+        if (i < periods || !keep) lanes.flush(total);
     }
-    for (int c = 0; i < n; ++i, c = (c + 1 == MC ? 0 : c + 1)) total[c] += p[i];
+    for (int i = periods * P, c = 0; i < n; ++i, c = (c + 1 == MC ? 0 : c + 1)) total[c] += p[i];
 }
 
 // 8u one channel: sums of absolute differences against zero add 16 samples
@@ -152,6 +176,7 @@ inline void sum_row_32f_fast(const Zel32f* p, int n, Zel64f* total) {
     for (int g = 0; g < G; ++g) acc[g] = _mm_setzero_ps();
     int i = 0;
     for (; i + P <= n; i += P)
+#pragma GCC unroll 4
         for (int g = 0; g < G; ++g) acc[g] = _mm_add_ps(acc[g], _mm_loadu_ps(p + i + 4 * g));
     alignas(16) Zel32f lane[P];
     for (int g = 0; g < G; ++g) _mm_store_ps(lane + 4 * g, acc[g]);

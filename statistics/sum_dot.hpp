@@ -6,8 +6,8 @@
 //  - one channel, integer samples: product j of a row goes to accumulator
 //    j % 8; at the end of the row ((a0+a1)+(a2+a3))+((a4+a5)+(a6+a7)) is added
 //    to the total.
-//  - one channel, Zel32f: four lanes, product j to lane j % 4; at the end of
-//    the row (l0+l2)+(l1+l3) is added to the total.
+//  - one channel, Zel32f: two accumulators of two lanes, product j to lane
+//    j % 4; at the end of the row (l0+l2)+(l1+l3) is added to the total.
 //  - several channels: one accumulator a channel, pixels in row order, added
 //    to the channel's total at the end of the row.
 #pragma once
@@ -28,20 +28,33 @@ inline Zel64f dot_row_c1(const T* a, const T* b, int n) {
     return ((acc[0] + acc[1]) + (acc[2] + acc[3])) + ((acc[4] + acc[5]) + (acc[6] + acc[7]));
 }
 
-template <>
-inline Zel64f dot_row_c1<Zel32f>(const Zel32f* a, const Zel32f* b, int n) {
-    __m128d lo = _mm_setzero_pd(), hi = _mm_setzero_pd();
+// Two Zel32f samples widened to Zel64f, from any address.
+inline __m128d widen2(const Zel32f* p) {
+    return _mm_cvtps_pd(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))));
+}
+
+// Zel32f, R rows side by side: each row keeps its own two accumulators, so
+// the sums are those of one row at a time; the rows only share the loop,
+// which hides the latency of the additions.
+template <int R>
+inline void dot_rows_32f(const Zel32f* const* a, const Zel32f* const* b, int n, Zel64f* rowSum) {
+    __m128d lo[R], hi[R];
+#pragma GCC unroll 4
+    for (int r = 0; r < R; ++r) lo[r] = hi[r] = _mm_setzero_pd();
     int j = 0;
-    for (; j + 4 <= n; j += 4) {
-        const __m128 u = _mm_loadu_ps(a + j), v = _mm_loadu_ps(b + j);
-        lo = _mm_add_pd(lo, _mm_mul_pd(_mm_cvtps_pd(u), _mm_cvtps_pd(v)));
-        hi = _mm_add_pd(hi, _mm_mul_pd(_mm_cvtps_pd(_mm_movehl_ps(u, u)), _mm_cvtps_pd(_mm_movehl_ps(v, v))));
+    for (; j + 4 <= n; j += 4)
+#pragma GCC unroll 4
+        for (int r = 0; r < R; ++r) {
+            lo[r] = _mm_add_pd(lo[r], _mm_mul_pd(widen2(a[r] + j), widen2(b[r] + j)));
+            hi[r] = _mm_add_pd(hi[r], _mm_mul_pd(widen2(a[r] + j + 2), widen2(b[r] + j + 2)));
+        }
+    for (int r = 0; r < R; ++r) {
+        alignas(16) Zel64f lane[4];
+        _mm_store_pd(lane, lo[r]);
+        _mm_store_pd(lane + 2, hi[r]);
+        for (int k = j, i = 0; k < n; ++k, ++i) lane[i] += Zel64f(a[r][k]) * Zel64f(b[r][k]);
+        rowSum[r] = (lane[0] + lane[2]) + (lane[1] + lane[3]);
     }
-    alignas(16) Zel64f lane[4];
-    _mm_store_pd(lane, lo);
-    _mm_store_pd(lane + 2, hi);
-    for (int i = 0; j < n; ++j, ++i) lane[i] += Zel64f(a[j]) * Zel64f(b[j]);
-    return (lane[0] + lane[2]) + (lane[1] + lane[3]);
 }
 
 template <class T, int MC>
@@ -60,13 +73,27 @@ ZelStatus dot_prod(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, Z
     if (bad_size(roi) || src1Step == 0 || src2Step == 0) return zelStatusBadSize;
     constexpr int MC = channels(L);
     Zel64f total[4] = {0, 0, 0, 0};
-    for (int r = 0; r < roi.height; ++r) {
-        const T* a = row(pSrc1, src1Step, r);
-        const T* b = row(pSrc2, src2Step, r);
-        if constexpr (MC == 1)
-            total[0] += dot_row_c1(a, b, roi.width);
-        else
-            dot_row<T, MC>(a, b, roi.width, total);
+    if constexpr (MC == 1 && std::is_same<T, Zel32f>::value) {
+        for (int r = 0; r < roi.height; r += 4) {
+            const int k = roi.height - r < 4 ? roi.height - r : 4;
+            const Zel32f *a[4], *b[4];
+            Zel64f rowSum[4];
+            for (int i = 0; i < k; ++i) a[i] = row(pSrc1, src1Step, r + i), b[i] = row(pSrc2, src2Step, r + i);
+            if (k == 4)
+                dot_rows_32f<4>(a, b, roi.width, rowSum);
+            else
+                for (int i = 0; i < k; ++i) dot_rows_32f<1>(a + i, b + i, roi.width, rowSum + i);
+            for (int i = 0; i < k; ++i) total[0] += rowSum[i];
+        }
+    } else {
+        for (int r = 0; r < roi.height; ++r) {
+            const T* a = row(pSrc1, src1Step, r);
+            const T* b = row(pSrc2, src2Step, r);
+            if constexpr (MC == 1)
+                total[0] += dot_row_c1(a, b, roi.width);
+            else
+                dot_row<T, MC>(a, b, roi.width, total);
+        }
     }
     for (int c = 0; c < active(L); ++c) pDp[c] = total[c];
     return zelStatusOk;

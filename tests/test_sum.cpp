@@ -207,13 +207,18 @@ TEST(Sum, LargeTotalsStayExact) {
     double s4[4];
     ASSERT_EQ(zeliSum_8u_C4R(big.data(), w, ZeliSize{w / 4, h}, s4), zelStatusOk);
     for (double v : s4) EXPECT_EQ(v, 255.0 * w / 4 * h);
+    // Long multi-channel rows: many blocks of the 16-bit byte lanes a row.
+    double s3[3];
+    ASSERT_EQ(zeliSum_8u_C3R(big.data(), 15000, ZeliSize{5000, 1000}, s3), zelStatusOk);
+    for (double v : s3) EXPECT_EQ(v, 255.0 * 5000 * 1000);
+    ASSERT_EQ(zeliSum_8u_AC4R(big.data(), 16000, ZeliSize{4000, 1000}, s4), zelStatusOk);
+    for (int c = 0; c < 3; ++c) EXPECT_EQ(s4[c], 255.0 * 4000 * 1000);
     ASSERT_EQ(zeliMean_8u_C1R(big.data(), w, ZeliSize{w, h}, &m), zelStatusOk);
     EXPECT_EQ(m, 255.0);
 
     std::vector<Zel16u> wide(70000 * 2, 65535);
     ASSERT_EQ(zeliSum_16u_C1R(wide.data(), 140000, ZeliSize{70000, 2}, &s), zelStatusOk);
     EXPECT_EQ(s, 65535.0 * 140000);
-    double s3[3];
     ASSERT_EQ(zeliSum_16u_C3R(wide.data(), 0, ZeliSize{46666, 1}, s3), zelStatusOk);
     for (double v : s3) EXPECT_EQ(v, 65535.0 * 46666);
 }

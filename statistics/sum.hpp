@@ -158,7 +158,7 @@ void sum_int(const T* pSrc, int step, ZeliSize roi, Zel64f* out) {
     } else {
         // 16s images below 0x10000 pixels cannot overflow a 32-bit lane:
         // their lanes are flushed once, at the end.
-        const bool keep = std::is_same<T, Zel16s>::value && roi.width * roi.height < 0x10000;
+        const bool keep = std::is_same<T, Zel16s>::value && (long long)roi.width * roi.height < 0x10000;
         const int block = sizeof(T) == 1 ? (1 << 20) : 32768;
         IntLanes<T, MC> lanes;
         for (int r = 0; r < roi.height; ++r) sum_row_int<T, MC>(row(pSrc, step, r), n, total, lanes, block, keep);

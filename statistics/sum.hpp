@@ -143,7 +143,9 @@ inline long long sum_row_8u(const Zel8u* p, int n) {
     }
     for (; i + 16 <= n; i += 16)
         acc = _mm_add_epi64(acc, _mm_sad_epu8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p + i)), z));
-    long long s = _mm_cvtsi128_si64(acc) + _mm_extract_epi64(acc, 1);
+    alignas(16) long long half[2];
+    _mm_store_si128(reinterpret_cast<__m128i*>(half), acc);
+    long long s = half[0] + half[1];
     for (; i < n; ++i) s += p[i];
     return s;
 }

@@ -1,0 +1,377 @@
+// Norms of one image, of the difference of two, and of the difference relative
+// to the second: Inf (largest magnitude), L1 (sum of magnitudes), L2 (root of
+// the sum of squares), one Zel64f a channel.
+//
+// Integer samples are accumulated exactly: 32-bit block totals over at most
+// 32768 pixels a block (no lane can overflow), added to 64-bit totals and
+// converted once at the end. 32f samples have two paths: the fast one sums in
+// Zel32f lanes within a row (lane = sample index modulo the lane period) and
+// folds the lanes into a Zel64f total at the end of each row; the accurate one
+// (hint 2) widens every sample to Zel64f over eight accumulators. The SSE
+// kernels add in exactly the lane order of the scalar code, so both give the
+// same bits at every width and alignment.
+#pragma once
+
+#include "core/frame.hpp"
+
+#include <cfloat>
+#include <climits>
+#include <cmath>
+#include <cstdint>
+#include <type_traits>
+
+namespace zel {
+
+enum class NormKind { Inf, L1, L2 };
+
+namespace norm_detail {
+
+constexpr int kBlock = 32768; // pixels a block of 32-bit integer totals
+
+// |a - b| (or |a|) of integer samples, as an unsigned 32-bit value.
+template <class T, bool DIFF>
+inline std::uint32_t mag(T a, T b) {
+    if (std::is_same<T, Zel32s>::value) {
+        const std::uint32_t u = std::uint32_t(a);
+        return a < 0 ? 0u - u : u;
+    }
+    const int d = DIFF ? int(a) - int(b) : int(a);
+    return std::uint32_t(d < 0 ? -d : d);
+}
+
+// ---- integer rows, generic (any layout) ------------------------------------
+template <class T, NormKind K, int CH, bool DIFF, class Acc>
+inline void int_sum_row(const T* a, const T* b, int n, Acc* s) {
+    for (int x = 0; x < n; ++x)
+        for (int c = 0; c < CH; ++c) {
+            const std::uint32_t m = mag<T, DIFF>(a[x * CH + c], DIFF ? b[x * CH + c] : T(0));
+            s[c] += K == NormKind::L1 ? Acc(m) : Acc(m) * Acc(m);
+        }
+}
+
+template <class T, int CH, bool DIFF, bool SAT>
+inline void int_max_row(const T* a, const T* b, int n, std::uint32_t* mx) {
+    for (int x = 0; x < n; ++x)
+        for (int c = 0; c < CH; ++c) {
+            std::uint32_t m = mag<T, DIFF>(a[x * CH + c], DIFF ? b[x * CH + c] : T(0));
+            if (SAT && m > 32767u) m = 32767u;
+            mx[c] = m > mx[c] ? m : mx[c];
+        }
+}
+
+// ---- SSE kernels for one-channel 8u and 16s --------------------------------
+// Sum of two 64-bit lanes whose total fits 32 bits (a block of sums of bytes).
+inline std::uint32_t hsum64(__m128i v) {
+    return std::uint32_t(_mm_cvtsi128_si32(_mm_add_epi64(v, _mm_srli_si128(v, 8))));
+}
+inline std::uint32_t hsum32(__m128i v) {
+    v = _mm_add_epi32(v, _mm_shuffle_epi32(v, 0x4e));
+    v = _mm_add_epi32(v, _mm_shuffle_epi32(v, 0xb1));
+    return std::uint32_t(_mm_cvtsi128_si32(v));
+}
+inline __m128i absdiff_u8(__m128i a, __m128i b) { return _mm_or_si128(_mm_subs_epu8(a, b), _mm_subs_epu8(b, a)); }
+
+template <bool DIFF>
+inline std::uint32_t l1_8u(const Zel8u* a, const Zel8u* b, int n) {
+    __m128i acc = _mm_setzero_si128();
+    int x = 0;
+    for (; x + 16 <= n; x += 16) {
+        const __m128i va = _mm_loadu_si128(reinterpret_cast<const __m128i*>(a + x));
+        const __m128i vb = DIFF ? _mm_loadu_si128(reinterpret_cast<const __m128i*>(b + x)) : _mm_setzero_si128();
+        acc = _mm_add_epi64(acc, _mm_sad_epu8(va, vb));
+    }
+    std::uint32_t s = hsum64(acc);
+    for (; x < n; ++x) s += mag<Zel8u, DIFF>(a[x], DIFF ? b[x] : 0);
+    return s;
+}
+
+template <bool DIFF>
+inline std::uint32_t l2_8u(const Zel8u* a, const Zel8u* b, int n) {
+    const __m128i z = _mm_setzero_si128();
+    __m128i acc0 = z, acc1 = z;
+    int x = 0;
+    for (; x + 16 <= n; x += 16) {
+        __m128i va = _mm_loadu_si128(reinterpret_cast<const __m128i*>(a + x));
+        if (DIFF) va = absdiff_u8(va, _mm_loadu_si128(reinterpret_cast<const __m128i*>(b + x)));
+        const __m128i lo = _mm_unpacklo_epi8(va, z), hi = _mm_unpackhi_epi8(va, z);
+        acc0 = _mm_add_epi32(acc0, _mm_madd_epi16(lo, lo));
+        acc1 = _mm_add_epi32(acc1, _mm_madd_epi16(hi, hi));
+    }
+    std::uint32_t s = hsum32(_mm_add_epi32(acc0, acc1));
+    for (; x < n; ++x) {
+        const std::uint32_t m = mag<Zel8u, DIFF>(a[x], DIFF ? b[x] : 0);
+        s += m * m;
+    }
+    return s;
+}
+
+template <bool DIFF>
+inline std::uint32_t inf_8u(const Zel8u* a, const Zel8u* b, int n, std::uint32_t m) {
+    __m128i acc = _mm_setzero_si128();
+    int x = 0;
+    for (; x + 16 <= n; x += 16) {
+        __m128i va = _mm_loadu_si128(reinterpret_cast<const __m128i*>(a + x));
+        if (DIFF) va = absdiff_u8(va, _mm_loadu_si128(reinterpret_cast<const __m128i*>(b + x)));
+        acc = _mm_max_epu8(acc, va);
+    }
+    acc = _mm_max_epu8(acc, _mm_srli_si128(acc, 8));
+    acc = _mm_max_epu8(acc, _mm_srli_si128(acc, 4));
+    acc = _mm_max_epu8(acc, _mm_srli_si128(acc, 2));
+    acc = _mm_max_epu8(acc, _mm_srli_si128(acc, 1));
+    const std::uint32_t v = std::uint32_t(_mm_cvtsi128_si32(acc) & 0xff);
+    m = v > m ? v : m;
+    for (; x < n; ++x) {
+        const std::uint32_t d = mag<Zel8u, DIFF>(a[x], DIFF ? b[x] : 0);
+        m = d > m ? d : m;
+    }
+    return m;
+}
+
+// Largest |sample| of a 16s row with -32768 saturated to 32767.
+inline std::uint32_t inf_16s_sat(const Zel16s* a, int n, std::uint32_t m) {
+    __m128i acc = _mm_setzero_si128();
+    int x = 0;
+    for (; x + 8 <= n; x += 8)
+        acc = _mm_max_epu16(acc, _mm_abs_epi16(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a + x))));
+    acc = _mm_minpos_epu16(_mm_xor_si128(acc, _mm_set1_epi16(-1))); // smallest complement = largest value
+    std::uint32_t v = 0xffffu - std::uint32_t(_mm_cvtsi128_si32(acc) & 0xffff);
+    if (v > 32767u) v = 32767u;
+    m = v > m ? v : m;
+    for (; x < n; ++x) {
+        std::uint32_t d = mag<Zel16s, false>(a[x], 0);
+        if (d > 32767u) d = 32767u;
+        m = d > m ? d : m;
+    }
+    return m;
+}
+
+// ---- integer image pass ----------------------------------------------------
+// out[c] = max |a - b|, sum |a - b| or sum (a - b)^2 of channel c (b absent
+// unless DIFF). SAT: the saturating 16s magnitude with the early stop.
+template <class T, NormKind K, Layout L, bool DIFF>
+void int_pass(const T* a, int sa, const T* b, int sb, ZeliSize roi, double* out) {
+    constexpr int CH = channels(L);
+    constexpr bool SAT = std::is_same<T, Zel16s>::value && !DIFF;
+    int w = roi.width, h = roi.height;
+    const long long rowBytes = (long long)w * CH * sizeof(T);
+    if (CH == 1 && (DIFF ? contiguous(rowBytes, h, INT_MAX, sa, sb) : contiguous(rowBytes, h, INT_MAX, sa))) {
+        w *= h;
+        h = 1;
+    }
+    if (K == NormKind::Inf) {
+        std::uint32_t mx[CH] = {};
+        for (int r = 0; r < h; ++r) {
+            const T* pa = row(a, sa, r);
+            const T* pb = DIFF ? row(b, sb, r) : pa;
+            if (CH == 1 && std::is_same<T, Zel8u>::value) {
+                mx[0] = inf_8u<DIFF>(reinterpret_cast<const Zel8u*>(pa), reinterpret_cast<const Zel8u*>(pb), w, mx[0]);
+            } else if (CH == 1 && SAT) {
+                mx[0] = inf_16s_sat(reinterpret_cast<const Zel16s*>(pa), w, mx[0]);
+            } else {
+                int_max_row<T, CH, DIFF, SAT>(pa, pb, w, mx);
+            }
+            if (SAT) { // nothing can exceed 32767: stop once every channel has it
+                bool all = true;
+                for (int c = 0; c < active(L); ++c) all = all && mx[c] == 32767u;
+                if (all) break;
+            }
+        }
+        for (int c = 0; c < CH; ++c) out[c] = double(mx[c]);
+        return;
+    }
+    // L2 of 16-bit magnitudes needs 64-bit lanes; everything else fits 32 bits a block.
+    using Acc = typename std::conditional<K == NormKind::L2 && sizeof(T) == 2, std::uint64_t, std::uint32_t>::type;
+    std::uint64_t tot[CH] = {};
+    for (int r = 0; r < h; ++r) {
+        const T* pa = row(a, sa, r);
+        const T* pb = DIFF ? row(b, sb, r) : pa;
+        for (int x0 = 0; x0 < w; x0 += kBlock) {
+            const int n = w - x0 < kBlock ? w - x0 : kBlock;
+            const T* qa = pa + std::ptrdiff_t(x0) * CH;
+            const T* qb = pb + std::ptrdiff_t(x0) * CH;
+            if (CH == 1 && std::is_same<T, Zel8u>::value) {
+                const Zel8u* ua = reinterpret_cast<const Zel8u*>(qa);
+                const Zel8u* ub = reinterpret_cast<const Zel8u*>(qb);
+                tot[0] += K == NormKind::L1 ? l1_8u<DIFF>(ua, ub, n) : l2_8u<DIFF>(ua, ub, n);
+            } else {
+                Acc s[CH] = {};
+                int_sum_row<T, K, CH, DIFF, Acc>(qa, qb, n, s);
+                for (int c = 0; c < CH; ++c) tot[c] += s[c];
+            }
+        }
+    }
+    for (int c = 0; c < CH; ++c) out[c] = double(tot[c]);
+}
+
+// ---- 32f -------------------------------------------------------------------
+inline __m128 abs_ps(__m128 v) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), v); }
+inline float abs_f(float v) { return std::fabs(v); }
+
+template <NormKind K>
+inline float term_f(float d) { return K == NormKind::L1 ? abs_f(d) : d * d; }
+template <NormKind K>
+inline __m128 term_ps(__m128 d) { return K == NormKind::L1 ? abs_ps(d) : _mm_mul_ps(d, d); }
+
+// Inf: largest |a - b| by channel; NaN samples are passed over.
+template <int CH, bool DIFF>
+inline void inf_row_32f(const Zel32f* a, const Zel32f* b, int n, float* mx) {
+    int x = 0;
+    const int ns = n * CH;
+    if (CH != 3) { // four lanes hold whole channels
+        __m128 acc = _mm_setzero_ps();
+        for (; x + 4 <= ns; x += 4) {
+            __m128 v = _mm_loadu_ps(a + x);
+            if (DIFF) v = _mm_sub_ps(v, _mm_loadu_ps(b + x));
+            acc = _mm_max_ps(abs_ps(v), acc); // a NaN operand keeps acc
+        }
+        alignas(16) float l[4];
+        _mm_store_ps(l, acc);
+        for (int j = 0; j < 4; ++j) mx[j % CH] = l[j] > mx[j % CH] ? l[j] : mx[j % CH];
+    }
+    for (; x < ns; ++x) {
+        const float v = abs_f(DIFF ? a[x] - b[x] : a[x]);
+        mx[x % CH] = v > mx[x % CH] ? v : mx[x % CH];
+    }
+}
+
+// Fast path: sample i of a row adds to Zel32f lane i % P (P = 8, or 24 for
+// three channels); at the end of the row lane j is added, in order of j, to
+// the Zel64f total of channel j % CH.
+template <NormKind K, int CH, bool DIFF>
+inline void fast_row_32f(const Zel32f* a, const Zel32f* b, int n, double* tot) {
+    constexpr int P = CH == 3 ? 24 : 8, V = P / 4;
+    alignas(16) float lane[P];
+    __m128 acc[V];
+    for (int v = 0; v < V; ++v) acc[v] = _mm_setzero_ps();
+    const int ns = n * CH;
+    int x = 0;
+    for (; x + P <= ns; x += P)
+        for (int v = 0; v < V; ++v) {
+            __m128 d = _mm_loadu_ps(a + x + 4 * v);
+            if (DIFF) d = _mm_sub_ps(d, _mm_loadu_ps(b + x + 4 * v));
+            acc[v] = _mm_add_ps(acc[v], term_ps<K>(d));
+        }
+    for (int v = 0; v < V; ++v) _mm_store_ps(lane + 4 * v, acc[v]);
+    for (int j = 0; x < ns; ++x, ++j) lane[j] += term_f<K>(DIFF ? a[x] - b[x] : a[x]);
+    for (int j = 0; j < P; ++j) tot[j % CH] += double(lane[j]);
+}
+
+// Accurate path, per channel: pixel x of a row of at least 16 pixels adds
+// to Zel64f accumulator x % 8 (the last pixel of an odd row to accumulator 0);
+// at the end of the row the even accumulators go pairwise into the even
+// total, the odd ones into the odd total. Shorter rows add straight into the
+// total of their parity. The result is even + odd.
+template <NormKind K, int CH, bool DIFF>
+inline void accurate_row_32f(const Zel32f* a, const Zel32f* b, int n, double* even, double* odd) {
+    for (int c = 0; c < CH; ++c) {
+        auto term = [&](int x) {
+            const double d = DIFF ? double(a[x * CH + c]) - double(b[x * CH + c]) : double(a[x * CH + c]);
+            return K == NormKind::L1 ? std::fabs(d) : d * d;
+        };
+        if (n < 16) {
+            for (int x = 0; x < n; ++x) (x & 1 ? odd[c] : even[c]) += term(x);
+            continue;
+        }
+        double acc[8] = {};
+        const int m = n & ~1;
+        int x = 0;
+        for (; x + 8 <= m; x += 8)
+            for (int j = 0; j < 8; ++j) acc[j] += term(x + j);
+        for (int j = 0; x < m; ++x, ++j) acc[j] += term(x);
+        if (n & 1) acc[0] += term(n - 1);
+        even[c] += (acc[0] + acc[2]) + (acc[4] + acc[6]);
+        odd[c] += (acc[1] + acc[3]) + (acc[5] + acc[7]);
+    }
+}
+
+template <NormKind K, Layout L, bool DIFF>
+void f32_pass(const Zel32f* a, int sa, const Zel32f* b, int sb, ZeliSize roi, int hint, double* out) {
+    constexpr int CH = channels(L);
+    int w = roi.width, h = roi.height;
+    if (K == NormKind::Inf) {
+        const long long rowBytes = (long long)w * CH * 4;
+        if (DIFF ? contiguous(rowBytes, h, INT_MAX, sa, sb) : contiguous(rowBytes, h, INT_MAX, sa)) {
+            w *= h;
+            h = 1;
+        }
+        float mx[CH] = {};
+        for (int r = 0; r < h; ++r)
+            inf_row_32f<CH, DIFF>(row(a, sa, r), DIFF ? row(b, sb, r) : nullptr, w, mx);
+        for (int c = 0; c < CH; ++c) out[c] = double(mx[c]);
+        return;
+    }
+    if (hint == 2) {
+        double even[CH] = {}, odd[CH] = {};
+        for (int r = 0; r < h; ++r)
+            accurate_row_32f<K, CH, DIFF>(row(a, sa, r), DIFF ? row(b, sb, r) : nullptr, w, even, odd);
+        for (int c = 0; c < CH; ++c) out[c] = even[c] + odd[c];
+        return;
+    }
+    double tot[CH] = {};
+    for (int r = 0; r < h; ++r) fast_row_32f<K, CH, DIFF>(row(a, sa, r), DIFF ? row(b, sb, r) : nullptr, w, tot);
+    for (int c = 0; c < CH; ++c) out[c] = tot[c];
+}
+
+template <class T, NormKind K, Layout L, bool DIFF>
+inline void pass(const T* a, int sa, const T* b, int sb, ZeliSize roi, int hint, double* out) {
+    if constexpr (std::is_same<T, Zel32f>::value)
+        f32_pass<K, L, DIFF>(a, sa, b, sb, roi, hint, out);
+    else
+        int_pass<T, K, L, DIFF>(a, sa, b, sb, roi, out);
+}
+
+template <NormKind K>
+inline double finish(double v) { return K == NormKind::L2 ? std::sqrt(v) : v; }
+
+} // namespace norm_detail
+
+// zeliNorm_<K>_<T>_<L>
+template <NormKind K, class T, Layout L>
+ZelStatus norm(const T* pSrc, int srcStep, ZeliSize roi, Zel64f* pValue, ZelHintAlgorithm hint = 0) {
+    if (any_null(pSrc, pValue)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    if (any_bad_step(srcStep)) return zelStatusBadStep;
+    double v[4];
+    norm_detail::pass<T, K, L, false>(pSrc, srcStep, nullptr, 0, roi, hint, v);
+    for (int c = 0; c < active(L); ++c) pValue[c] = norm_detail::finish<K>(v[c]);
+    return zelStatusOk;
+}
+
+// zeliNormDiff_<K>_<T>_<L>
+template <NormKind K, class T, Layout L>
+ZelStatus norm_diff(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, ZeliSize roi, Zel64f* pValue,
+                    ZelHintAlgorithm hint = 0) {
+    if (any_null(pSrc1, pSrc2, pValue)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    if (any_bad_step(src1Step, src2Step)) return zelStatusBadStep;
+    double v[4];
+    norm_detail::pass<T, K, L, true>(pSrc1, src1Step, pSrc2, src2Step, roi, hint, v);
+    for (int c = 0; c < active(L); ++c) pValue[c] = norm_detail::finish<K>(v[c]);
+    return zelStatusOk;
+}
+
+// zeliNormRel_<K>_<T>_<L>: the norm of the difference over the norm of pSrc2;
+// a denominator below the smallest normal Zel64f leaves the numerator alone
+// and raises the warning for that channel.
+template <NormKind K, class T, Layout L>
+ZelStatus norm_rel(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, ZeliSize roi, Zel64f* pValue,
+                   ZelHintAlgorithm hint = 0) {
+    if (any_null(pSrc1, pSrc2, pValue)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    if (any_bad_step(src1Step, src2Step)) return zelStatusBadStep;
+    double num[4], den[4];
+    norm_detail::pass<T, K, L, true>(pSrc1, src1Step, pSrc2, src2Step, roi, hint, num);
+    norm_detail::pass<T, K, L, false>(pSrc2, src2Step, nullptr, 0, roi, hint, den);
+    ZelStatus st = zelStatusOk;
+    for (int c = 0; c < active(L); ++c) {
+        if (den[c] < DBL_MIN) {
+            pValue[c] = norm_detail::finish<K>(num[c]);
+            st = zelStatusDivisionByZeroWarning;
+        } else {
+            pValue[c] = norm_detail::finish<K>(num[c] / den[c]);
+        }
+    }
+    return st;
+}
+
+} // namespace zel

@@ -35,7 +35,9 @@ inline void even_levels(Zel32s* lv, int nLevels, Zel32s lower, Zel32s upper) {
     long long cur = lower;
     lv[0] = lower;
     for (int k = 0; k < n; ++k) {
-        cur += d >= 0 ? d + (r - k > 0 ? 1 : 0) : d - (r + k < 0 ? 1 : 0);
+        // the sign of the range picks the rule, so that a falling range
+        // narrower than n bins still ends at upperLevel
+        cur += diff >= 0 ? d + (r - k > 0 ? 1 : 0) : d - (r + k < 0 ? 1 : 0);
         lv[k + 1] = Zel32s(cur);
     }
 }

@@ -86,23 +86,28 @@ inline void bins_from_table(const Zel32s* tab, int size, int base, const Zel32s*
     }
 }
 
-// One scan of an 8u image into one 256-entry table a channel (four tables
-// for one channel, merged after the scan, so that neighbouring samples do
-// not wait for each other's increment).
+// One scan of an 8u image into one 256-entry table a channel, four samples a
+// step from the end of each row. One channel spreads its samples over four
+// tables, merged after the scan, so that neighbouring samples do not wait for
+// each other's increment; with 3 or 4 channels each channel has its table.
 template <int CH>
 inline void table_8u(const Zel8u* src, int step, ZeliSize roi, Zel32s (*tab)[256]) {
     constexpr int NT = CH == 1 ? 4 : CH;
     std::memset(tab, 0, sizeof(Zel32s) * 256 * NT);
     const int n = roi.width * CH;
+    Zel32s* t[4] = {tab[0], tab[1 % NT], tab[2 % NT], tab[3 % NT]};
     for (int r = 0; r < roi.height; ++r) {
         const Zel8u* p = row(src, step, r);
         int x = n;
-        // four samples a step from the end of the row
-        for (; x >= 4; x -= 4) {
-            ++tab[(x - 4) % NT][p[x - 4]];
-            ++tab[(x - 3) % NT][p[x - 3]];
-            ++tab[(x - 2) % NT][p[x - 2]];
-            ++tab[(x - 1) % NT][p[x - 1]];
+        if (CH != 3) { // four samples: one of each table
+            for (; x >= 4; x -= 4) {
+                std::uint32_t q;
+                std::memcpy(&q, p + x - 4, 4);
+                ++t[0][q & 0xff];
+                ++t[1][(q >> 8) & 0xff];
+                ++t[2][(q >> 16) & 0xff];
+                ++t[3][q >> 24];
+            }
         }
         for (; x > 0; --x) ++tab[(x - 1) % NT][p[x - 1]];
     }

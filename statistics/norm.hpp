@@ -18,6 +18,7 @@
 #include <climits>
 #include <cmath>
 #include <cstdint>
+#include <tuple>
 #include <type_traits>
 
 namespace zel {
@@ -325,53 +326,55 @@ inline double finish(double v) { return K == NormKind::L2 ? std::sqrt(v) : v; }
 
 } // namespace norm_detail
 
+namespace norm_detail {
+// Checks of every norm: pointers, size, steps.
+template <class... P, class... S>
+inline ZelStatus check(ZeliSize roi, std::tuple<const P*...> ptrs, S... steps) {
+    if (std::apply([](auto... p) { return any_null(p...); }, ptrs)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    if (any_bad_step(steps...)) return zelStatusBadStep;
+    return zelStatusOk;
+}
+} // namespace norm_detail
+
 // zeliNorm_<K>_<T>_<L>
 template <NormKind K, class T, Layout L>
 ZelStatus norm(const T* pSrc, int srcStep, ZeliSize roi, Zel64f* pValue, ZelHintAlgorithm hint = 0) {
-    if (any_null(pSrc, pValue)) return zelStatusNullPointer;
-    if (bad_size(roi)) return zelStatusBadSize;
-    if (any_bad_step(srcStep)) return zelStatusBadStep;
+    if (ZelStatus st = norm_detail::check(roi, std::make_tuple(pSrc, (const Zel64f*)pValue), srcStep)) return st;
     double v[4];
     norm_detail::pass<T, K, L, false>(pSrc, srcStep, nullptr, 0, roi, hint, v);
     for (int c = 0; c < active(L); ++c) pValue[c] = norm_detail::finish<K>(v[c]);
     return zelStatusOk;
 }
 
-// zeliNormDiff_<K>_<T>_<L>
-template <NormKind K, class T, Layout L>
-ZelStatus norm_diff(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, ZeliSize roi, Zel64f* pValue,
-                    ZelHintAlgorithm hint = 0) {
-    if (any_null(pSrc1, pSrc2, pValue)) return zelStatusNullPointer;
-    if (bad_size(roi)) return zelStatusBadSize;
-    if (any_bad_step(src1Step, src2Step)) return zelStatusBadStep;
-    double v[4];
-    norm_detail::pass<T, K, L, true>(pSrc1, src1Step, pSrc2, src2Step, roi, hint, v);
-    for (int c = 0; c < active(L); ++c) pValue[c] = norm_detail::finish<K>(v[c]);
-    return zelStatusOk;
-}
-
-// zeliNormRel_<K>_<T>_<L>: the norm of the difference over the norm of pSrc2;
-// a denominator below the smallest normal Zel64f leaves the numerator alone
-// and raises the warning for that channel.
-template <NormKind K, class T, Layout L>
-ZelStatus norm_rel(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, ZeliSize roi, Zel64f* pValue,
+// zeliNormDiff_<K>_<T>_<L> (REL false) and zeliNormRel_<K>_<T>_<L> (REL
+// true): the norm of the difference, for Rel over the norm of pSrc2. A
+// denominator below the smallest normal Zel64f leaves the numerator alone and
+// raises the warning for that channel; every channel is written.
+template <NormKind K, class T, Layout L, bool REL>
+ZelStatus norm_two(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, ZeliSize roi, Zel64f* pValue,
                    ZelHintAlgorithm hint = 0) {
-    if (any_null(pSrc1, pSrc2, pValue)) return zelStatusNullPointer;
-    if (bad_size(roi)) return zelStatusBadSize;
-    if (any_bad_step(src1Step, src2Step)) return zelStatusBadStep;
+    if (ZelStatus st = norm_detail::check(roi, std::make_tuple(pSrc1, pSrc2, (const Zel64f*)pValue), src1Step, src2Step))
+        return st;
     double num[4], den[4];
     norm_detail::pass<T, K, L, true>(pSrc1, src1Step, pSrc2, src2Step, roi, hint, num);
-    norm_detail::pass<T, K, L, false>(pSrc2, src2Step, nullptr, 0, roi, hint, den);
+    if (REL) norm_detail::pass<T, K, L, false>(pSrc2, src2Step, nullptr, 0, roi, hint, den);
     ZelStatus st = zelStatusOk;
     for (int c = 0; c < active(L); ++c) {
-        if (den[c] < DBL_MIN) {
-            pValue[c] = norm_detail::finish<K>(num[c]);
-            st = zelStatusDivisionByZeroWarning;
-        } else {
-            pValue[c] = norm_detail::finish<K>(num[c] / den[c]);
-        }
+        const bool zero = REL && den[c] < DBL_MIN;
+        if (zero) st = zelStatusDivisionByZeroWarning;
+        pValue[c] = norm_detail::finish<K>(REL && !zero ? num[c] / den[c] : num[c]);
     }
     return st;
+}
+
+template <NormKind K, class T, Layout L>
+ZelStatus norm_diff(const T* a, int sa, const T* b, int sb, ZeliSize roi, Zel64f* v, ZelHintAlgorithm hint = 0) {
+    return norm_two<K, T, L, false>(a, sa, b, sb, roi, v, hint);
+}
+template <NormKind K, class T, Layout L>
+ZelStatus norm_rel(const T* a, int sa, const T* b, int sb, ZeliSize roi, Zel64f* v, ZelHintAlgorithm hint = 0) {
+    return norm_two<K, T, L, true>(a, sa, b, sb, roi, v, hint);
 }
 
 } // namespace zel

@@ -22,49 +22,27 @@
            (const Zel##T* pSrc1, int src1Step, const Zel##T* pSrc2, int src2Step, ZeliSize roiSize, Zel64f* pValue, \
             ZelHintAlgorithm hint),                                                           \
            (pSrc1, src1Step, pSrc2, src2Step, roiSize, pValue, hint), (zel::fn<zel::NormKind::K, Zel##T, zel::L>))
-/* every layout of one norm and type; S is ONE, ONE_H, TWO or TWO_H */
-#define ZEL_NORM_ALL(S, F, K, T, fn) \
+/* every layout and type of one norm; S is the shape of the integer forms,
+   SF that of 32f (with a hint for L1 and L2) */
+#define ZEL_NORM_LAYOUTS(S, F, K, T, fn) \
     ZEL_NORM_##S(F, K, T, C1, fn) ZEL_NORM_##S(F, K, T, C3, fn) ZEL_NORM_##S(F, K, T, C4, fn) ZEL_NORM_##S(F, K, T, AC4, fn)
+#define ZEL_NORM_ALL(S, SF, F, K, fn) \
+    ZEL_NORM_LAYOUTS(S, F, K, 8u, fn) ZEL_NORM_LAYOUTS(S, F, K, 16u, fn) ZEL_NORM_LAYOUTS(S, F, K, 16s, fn) \
+    ZEL_NORM_LAYOUTS(SF, F, K, 32f, fn)
 
-ZEL_NORM_ALL(ONE, Norm, Inf, 8u, norm)
-ZEL_NORM_ALL(ONE, Norm, Inf, 16u, norm)
-ZEL_NORM_ALL(ONE, Norm, Inf, 16s, norm)
-ZEL_NORM_ALL(ONE, Norm, Inf, 32f, norm)
+ZEL_NORM_ALL(ONE, ONE, Norm, Inf, norm)
 ZEL_NORM_ONE(Norm, Inf, 32s, C1, norm)
-ZEL_NORM_ALL(ONE, Norm, L1, 8u, norm)
-ZEL_NORM_ALL(ONE, Norm, L1, 16u, norm)
-ZEL_NORM_ALL(ONE, Norm, L1, 16s, norm)
-ZEL_NORM_ALL(ONE_H, Norm, L1, 32f, norm)
-ZEL_NORM_ALL(ONE, Norm, L2, 8u, norm)
-ZEL_NORM_ALL(ONE, Norm, L2, 16u, norm)
-ZEL_NORM_ALL(ONE, Norm, L2, 16s, norm)
-ZEL_NORM_ALL(ONE_H, Norm, L2, 32f, norm)
-ZEL_NORM_ALL(TWO, NormDiff, Inf, 8u, norm_diff)
-ZEL_NORM_ALL(TWO, NormDiff, Inf, 16u, norm_diff)
-ZEL_NORM_ALL(TWO, NormDiff, Inf, 16s, norm_diff)
-ZEL_NORM_ALL(TWO, NormDiff, Inf, 32f, norm_diff)
-ZEL_NORM_ALL(TWO, NormDiff, L1, 8u, norm_diff)
-ZEL_NORM_ALL(TWO, NormDiff, L1, 16u, norm_diff)
-ZEL_NORM_ALL(TWO, NormDiff, L1, 16s, norm_diff)
-ZEL_NORM_ALL(TWO_H, NormDiff, L1, 32f, norm_diff)
-ZEL_NORM_ALL(TWO, NormDiff, L2, 8u, norm_diff)
-ZEL_NORM_ALL(TWO, NormDiff, L2, 16u, norm_diff)
-ZEL_NORM_ALL(TWO, NormDiff, L2, 16s, norm_diff)
-ZEL_NORM_ALL(TWO_H, NormDiff, L2, 32f, norm_diff)
-ZEL_NORM_ALL(TWO, NormRel, Inf, 8u, norm_rel)
-ZEL_NORM_ALL(TWO, NormRel, Inf, 16u, norm_rel)
-ZEL_NORM_ALL(TWO, NormRel, Inf, 16s, norm_rel)
-ZEL_NORM_ALL(TWO, NormRel, Inf, 32f, norm_rel)
-ZEL_NORM_ALL(TWO, NormRel, L1, 8u, norm_rel)
-ZEL_NORM_ALL(TWO, NormRel, L1, 16u, norm_rel)
-ZEL_NORM_ALL(TWO, NormRel, L1, 16s, norm_rel)
-ZEL_NORM_ALL(TWO_H, NormRel, L1, 32f, norm_rel)
-ZEL_NORM_ALL(TWO, NormRel, L2, 8u, norm_rel)
-ZEL_NORM_ALL(TWO, NormRel, L2, 16u, norm_rel)
-ZEL_NORM_ALL(TWO, NormRel, L2, 16s, norm_rel)
-ZEL_NORM_ALL(TWO_H, NormRel, L2, 32f, norm_rel)
+ZEL_NORM_ALL(ONE, ONE_H, Norm, L1, norm)
+ZEL_NORM_ALL(ONE, ONE_H, Norm, L2, norm)
+ZEL_NORM_ALL(TWO, TWO, NormDiff, Inf, norm_diff)
+ZEL_NORM_ALL(TWO, TWO_H, NormDiff, L1, norm_diff)
+ZEL_NORM_ALL(TWO, TWO_H, NormDiff, L2, norm_diff)
+ZEL_NORM_ALL(TWO, TWO, NormRel, Inf, norm_rel)
+ZEL_NORM_ALL(TWO, TWO_H, NormRel, L1, norm_rel)
+ZEL_NORM_ALL(TWO, TWO_H, NormRel, L2, norm_rel)
 
 #undef ZEL_NORM_ALL
+#undef ZEL_NORM_LAYOUTS
 #undef ZEL_NORM_TWO_H
 #undef ZEL_NORM_TWO
 #undef ZEL_NORM_ONE_H

@@ -18,6 +18,7 @@
 #include <climits>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <tuple>
 #include <type_traits>
 
@@ -40,24 +41,93 @@ inline std::uint32_t mag(T a, T b) {
     return std::uint32_t(d < 0 ? -d : d);
 }
 
-// ---- integer rows, generic (any layout) ------------------------------------
+// ---- integer rows, any layout ------------------------------------------------
+// Four samples at a time are widened to 32-bit lanes; sample i of the row goes
+// to lane i % P (P = 4, or 12 for three channels, so that every lane belongs
+// to one channel), and the lanes are added into their channels at the end.
+template <class T>
+inline __m128i load4(const T* p) {
+    if (std::is_same<T, Zel8u>::value) {
+        int v;
+        std::memcpy(&v, p, 4);
+        return _mm_cvtepu8_epi32(_mm_cvtsi32_si128(v));
+    }
+    if (std::is_same<T, Zel32s>::value) return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+    const __m128i v = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+    return std::is_same<T, Zel16s>::value ? _mm_cvtepi16_epi32(v) : _mm_cvtepu16_epi32(v);
+}
+
+// |a - b| (or |a|) of four samples; -2^31 of 32s comes out as 2^31 unsigned.
+template <class T, bool DIFF>
+inline __m128i mag4(const T* a, const T* b) {
+    __m128i v = load4(a);
+    if (DIFF) v = _mm_sub_epi32(v, load4(b));
+    return (std::is_unsigned<T>::value && !DIFF) ? v : _mm_abs_epi32(v);
+}
+
+template <int CH>
+constexpr int vecs() { return CH == 3 ? 3 : 1; }
+
 template <class T, NormKind K, int CH, bool DIFF, class Acc>
 inline void int_sum_row(const T* a, const T* b, int n, Acc* s) {
-    for (int x = 0; x < n; ++x)
-        for (int c = 0; c < CH; ++c) {
-            const std::uint32_t m = mag<T, DIFF>(a[x * CH + c], DIFF ? b[x * CH + c] : T(0));
-            s[c] += K == NormKind::L1 ? Acc(m) : Acc(m) * Acc(m);
+    constexpr int V = vecs<CH>(), P = 4 * V;
+    alignas(16) Acc lane[P] = {};
+    const int ns = n * CH;
+    int x = 0;
+    if (sizeof(Acc) == 4) { // L1, and L2 of 8u (squares below 2^16: one madd)
+        __m128i acc[V];
+        for (int v = 0; v < V; ++v) acc[v] = _mm_setzero_si128();
+        for (; x + P <= ns; x += P)
+            for (int v = 0; v < V; ++v) {
+                const __m128i m = mag4<T, DIFF>(a + x + 4 * v, b + x + 4 * v);
+                acc[v] = _mm_add_epi32(acc[v], K == NormKind::L1 ? m : _mm_madd_epi16(m, m));
+            }
+        for (int v = 0; v < V; ++v) _mm_store_si128(reinterpret_cast<__m128i*>(lane + 4 * v), acc[v]);
+    } else { // L2 of 16-bit magnitudes: 64-bit products of even and odd lanes
+        __m128i ev[V], od[V];
+        for (int v = 0; v < V; ++v) ev[v] = od[v] = _mm_setzero_si128();
+        for (; x + P <= ns; x += P)
+            for (int v = 0; v < V; ++v) {
+                const __m128i m = mag4<T, DIFF>(a + x + 4 * v, b + x + 4 * v), mo = _mm_srli_epi64(m, 32);
+                ev[v] = _mm_add_epi64(ev[v], _mm_mul_epu32(m, m));
+                od[v] = _mm_add_epi64(od[v], _mm_mul_epu32(mo, mo));
+            }
+        for (int v = 0; v < V; ++v) {
+            alignas(16) std::uint64_t e[2], o[2];
+            _mm_store_si128(reinterpret_cast<__m128i*>(e), ev[v]);
+            _mm_store_si128(reinterpret_cast<__m128i*>(o), od[v]);
+            lane[4 * v] = Acc(e[0]);
+            lane[4 * v + 1] = Acc(o[0]);
+            lane[4 * v + 2] = Acc(e[1]);
+            lane[4 * v + 3] = Acc(o[1]);
         }
+    }
+    for (int j = 0; x < ns; ++x, ++j) {
+        const Acc m = mag<T, DIFF>(a[x], DIFF ? b[x] : T(0));
+        lane[j] += K == NormKind::L1 ? m : m * m;
+    }
+    for (int j = 0; j < P; ++j) s[j % CH] += lane[j];
 }
 
 template <class T, int CH, bool DIFF, bool SAT>
 inline void int_max_row(const T* a, const T* b, int n, std::uint32_t* mx) {
-    for (int x = 0; x < n; ++x)
-        for (int c = 0; c < CH; ++c) {
-            std::uint32_t m = mag<T, DIFF>(a[x * CH + c], DIFF ? b[x * CH + c] : T(0));
-            if (SAT && m > 32767u) m = 32767u;
-            mx[c] = m > mx[c] ? m : mx[c];
-        }
+    constexpr int V = vecs<CH>(), P = 4 * V;
+    alignas(16) std::uint32_t lane[P];
+    __m128i acc[V];
+    for (int v = 0; v < V; ++v) acc[v] = _mm_setzero_si128();
+    const int ns = n * CH;
+    int x = 0;
+    for (; x + P <= ns; x += P)
+        for (int v = 0; v < V; ++v) acc[v] = _mm_max_epu32(acc[v], mag4<T, DIFF>(a + x + 4 * v, b + x + 4 * v));
+    for (int v = 0; v < V; ++v) _mm_store_si128(reinterpret_cast<__m128i*>(lane + 4 * v), acc[v]);
+    for (int j = 0; x < ns; ++x, ++j) {
+        const std::uint32_t m = mag<T, DIFF>(a[x], DIFF ? b[x] : T(0));
+        lane[j] = m > lane[j] ? m : lane[j];
+    }
+    for (int j = 0; j < P; ++j) {
+        const std::uint32_t m = SAT && lane[j] > 32767u ? 32767u : lane[j];
+        mx[j % CH] = m > mx[j % CH] ? m : mx[j % CH];
+    }
 }
 
 // ---- SSE kernels for one-channel 8u and 16s --------------------------------

@@ -283,26 +283,28 @@ inline float term_f(float d) { return K == NormKind::L1 ? abs_f(d) : d * d; }
 template <NormKind K>
 inline __m128 term_ps(__m128 d) { return K == NormKind::L1 ? abs_ps(d) : _mm_mul_ps(d, d); }
 
-// Inf: largest |a - b| by channel; NaN samples are passed over.
+// Inf: largest |a - b| by channel; NaN samples are passed over. Sample i of
+// the row goes to lane i % P (P = 4, or 12 for three channels).
 template <int CH, bool DIFF>
 inline void inf_row_32f(const Zel32f* a, const Zel32f* b, int n, float* mx) {
-    int x = 0;
+    constexpr int V = CH == 3 ? 3 : 1, P = 4 * V;
+    __m128 acc[V];
+    for (int v = 0; v < V; ++v) acc[v] = _mm_setzero_ps();
     const int ns = n * CH;
-    if (CH != 3) { // four lanes hold whole channels
-        __m128 acc = _mm_setzero_ps();
-        for (; x + 4 <= ns; x += 4) {
-            __m128 v = _mm_loadu_ps(a + x);
-            if (DIFF) v = _mm_sub_ps(v, _mm_loadu_ps(b + x));
-            acc = _mm_max_ps(abs_ps(v), acc); // a NaN operand keeps acc
+    int x = 0;
+    for (; x + P <= ns; x += P)
+        for (int v = 0; v < V; ++v) {
+            __m128 d = _mm_loadu_ps(a + x + 4 * v);
+            if (DIFF) d = _mm_sub_ps(d, _mm_loadu_ps(b + x + 4 * v));
+            acc[v] = _mm_max_ps(abs_ps(d), acc[v]); // a NaN operand keeps acc
         }
-        alignas(16) float l[4];
-        _mm_store_ps(l, acc);
-        for (int j = 0; j < 4; ++j) mx[j % CH] = l[j] > mx[j % CH] ? l[j] : mx[j % CH];
+    alignas(16) float l[P];
+    for (int v = 0; v < V; ++v) _mm_store_ps(l + 4 * v, acc[v]);
+    for (int j = 0; x < ns; ++x, ++j) {
+        const float d = abs_f(DIFF ? a[x] - b[x] : a[x]);
+        l[j] = d > l[j] ? d : l[j];
     }
-    for (; x < ns; ++x) {
-        const float v = abs_f(DIFF ? a[x] - b[x] : a[x]);
-        mx[x % CH] = v > mx[x % CH] ? v : mx[x % CH];
-    }
+    for (int j = 0; j < P; ++j) mx[j % CH] = l[j] > mx[j % CH] ? l[j] : mx[j % CH];
 }
 
 // Fast path: sample i of a row adds to Zel32f lane i % P (P = 8, or 24 for

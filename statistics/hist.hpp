@@ -90,7 +90,7 @@ inline void bins_from_table(const Zel32s* tab, int size, int base, const Zel32s*
 // step from the end of each row. One channel spreads its samples over four
 // tables, merged after the scan, so that neighbouring samples do not wait for
 // each other's increment; with 3 or 4 channels each channel has its table.
-template <int CH>
+template <int CH, int NA>
 inline void table_8u(const Zel8u* src, int step, ZeliSize roi, Zel32s (*tab)[256]) {
     constexpr int NT = CH == 1 ? 4 : CH;
     std::memset(tab, 0, sizeof(Zel32s) * 256 * NT);
@@ -99,7 +99,7 @@ inline void table_8u(const Zel8u* src, int step, ZeliSize roi, Zel32s (*tab)[256
     for (int r = 0; r < roi.height; ++r) {
         const Zel8u* p = row(src, step, r);
         int x = n;
-        if (CH != 3) { // four samples: one of each table
+        if (CH == 1) { // four samples: one of each table
             for (; x >= 4; x -= 4) {
                 std::uint32_t q;
                 std::memcpy(&q, p + x - 4, 4);
@@ -108,23 +108,58 @@ inline void table_8u(const Zel8u* src, int step, ZeliSize roi, Zel32s (*tab)[256
                 ++t[2][(q >> 16) & 0xff];
                 ++t[3][q >> 24];
             }
+            for (; x > 0; --x) ++t[0][p[x - 1]];
+        } else { // a pixel a step, each sample to its channel's table
+            for (; x > 0; x -= CH)
+                for (int c = 0; c < NA; ++c) ++t[c][p[x - CH + c]];
         }
-        for (; x > 0; --x) ++tab[(x - 1) % NT][p[x - 1]];
     }
     if (CH == 1)
         for (int i = 0; i < 256; ++i) tab[0][i] += tab[1][i] + tab[2][i] + tab[3][i];
 }
 
+// Forward scan of four samples of one channel at a time: a sample inside
+// [first level, last level) has walked up past every inner level <= it, so its
+// bin is the count of those levels, found with one compare a level for all
+// four. Samples outside the range (and NaN) are skipped.
+template <class T, class LV, int CH>
+inline void forward_4(const T* p, const LV* lv, int bins, Zel32s* hist) {
+    alignas(16) int k[4];
+    int inside;
+    if constexpr (std::is_same<T, Zel32f>::value) {
+        const __m128 v = _mm_set_ps(p[3 * CH], p[2 * CH], p[CH], p[0]);
+        __m128i cnt = _mm_setzero_si128();
+        for (int j = 1; j < bins; ++j) cnt = _mm_sub_epi32(cnt, _mm_castps_si128(_mm_cmpge_ps(v, _mm_set1_ps(lv[j]))));
+        _mm_store_si128(reinterpret_cast<__m128i*>(k), cnt);
+        const __m128 in = _mm_and_ps(_mm_cmpge_ps(v, _mm_set1_ps(lv[0])), _mm_cmplt_ps(v, _mm_set1_ps(lv[bins])));
+        inside = _mm_movemask_ps(in);
+    } else {
+        const __m128i v = _mm_set_epi32(p[3 * CH], p[2 * CH], p[CH], p[0]);
+        __m128i cnt = _mm_setzero_si128();
+        for (int j = 1; j < bins; ++j) cnt = _mm_add_epi32(cnt, _mm_cmpgt_epi32(_mm_set1_epi32(lv[j]), v));
+        // cnt holds minus the count of levels above v among the inner ones
+        cnt = _mm_add_epi32(cnt, _mm_set1_epi32(bins - 1));
+        _mm_store_si128(reinterpret_cast<__m128i*>(k), cnt);
+        const __m128i in = _mm_andnot_si128(_mm_cmpgt_epi32(_mm_set1_epi32(lv[0]), v), _mm_cmpgt_epi32(_mm_set1_epi32(lv[bins]), v));
+        inside = _mm_movemask_ps(_mm_castsi128_ps(in));
+    }
+    for (int i = 0; i < 4; ++i)
+        if (inside >> i & 1) ++hist[k[i]];
+}
+
 // Scans one channel with a per-sample method (forward, binary or brute).
 template <class T, class LV, int CH>
 void scan_channel(const T* src, int step, ZeliSize roi, int c, Method m, const LV* lv, int nLevels, Zel32s* hist) {
-    using W = typename std::conditional<std::is_same<T, Zel32f>::value, double, int>::type;
+    using W = typename std::conditional<std::is_same<T, Zel32f>::value, Zel32f, int>::type;
     const int bins = nLevels - 1;
     std::memset(hist, 0, sizeof(Zel32s) * bins);
     const W first = W(lv[0]), last = W(lv[bins]);
     for (int r = 0; r < roi.height; ++r) {
         const T* p = row(src, step, r) + c;
-        for (int x = 0; x < roi.width; ++x) {
+        int x = 0;
+        if (m == Method::Forward)
+            for (; x + 4 <= roi.width; x += 4) forward_4<T, LV, CH>(p + x * CH, lv, bins, hist);
+        for (; x < roi.width; ++x) {
             const W v = W(p[x * CH]);
             if (m == Method::Brute) {
                 for (int k = 0; k < bins; ++k)
@@ -154,7 +189,7 @@ ZelStatus histogram(const T* src, int step, ZeliSize roi, Zel32s* const* hist, c
     constexpr int CH = channels(L), NA = active(L);
     if constexpr (std::is_same<T, Zel8u>::value) {
         alignas(16) Zel32s tab[CH == 1 ? 4 : CH][256];
-        table_8u<CH>(src, step, roi, tab);
+        table_8u<CH, NA>(src, step, roi, tab);
         for (int c = 0; c < NA; ++c) bins_from_table(tab[c], 256, 0, lv[c], nLevels[c], hist[c]);
         return zelStatusOk;
     } else {

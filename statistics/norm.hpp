@@ -345,11 +345,31 @@ inline void accurate_row_32f(const Zel32f* a, const Zel32f* b, int n, double* ev
             for (int x = 0; x < n; ++x) (x & 1 ? odd[c] : even[c]) += term(x);
             continue;
         }
-        double acc[8] = {};
+        alignas(16) double acc[8] = {};
         const int m = n & ~1;
         int x = 0;
-        for (; x + 8 <= m; x += 8)
-            for (int j = 0; j < 8; ++j) acc[j] += term(x + j);
+        if (CH == 1) { // accumulator pairs (0,1) (2,3) (4,5) (6,7) in four vectors
+            __m128d s[4] = {_mm_setzero_pd(), _mm_setzero_pd(), _mm_setzero_pd(), _mm_setzero_pd()};
+            const __m128d sign = _mm_set1_pd(-0.0);
+            for (; x + 8 <= m; x += 8)
+                for (int h = 0; h < 2; ++h) {
+                    const __m128 va = _mm_loadu_ps(a + x + 4 * h);
+                    __m128d d0 = _mm_cvtps_pd(va), d1 = _mm_cvtps_pd(_mm_movehl_ps(va, va));
+                    if (DIFF) {
+                        const __m128 vb = _mm_loadu_ps(b + x + 4 * h);
+                        d0 = _mm_sub_pd(d0, _mm_cvtps_pd(vb));
+                        d1 = _mm_sub_pd(d1, _mm_cvtps_pd(_mm_movehl_ps(vb, vb)));
+                    }
+                    d0 = K == NormKind::L1 ? _mm_andnot_pd(sign, d0) : _mm_mul_pd(d0, d0);
+                    d1 = K == NormKind::L1 ? _mm_andnot_pd(sign, d1) : _mm_mul_pd(d1, d1);
+                    s[2 * h] = _mm_add_pd(s[2 * h], d0);
+                    s[2 * h + 1] = _mm_add_pd(s[2 * h + 1], d1);
+                }
+            for (int v = 0; v < 4; ++v) _mm_store_pd(acc + 2 * v, s[v]);
+        } else {
+            for (; x + 8 <= m; x += 8)
+                for (int j = 0; j < 8; ++j) acc[j] += term(x + j);
+        }
         for (int j = 0; x < m; ++x, ++j) acc[j] += term(x);
         if (n & 1) acc[0] += term(n - 1);
         even[c] += (acc[0] + acc[2]) + (acc[4] + acc[6]);

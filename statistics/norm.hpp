@@ -283,49 +283,52 @@ inline float term_f(float d) { return K == NormKind::L1 ? abs_f(d) : d * d; }
 template <NormKind K>
 inline __m128 term_ps(__m128 d) { return K == NormKind::L1 ? abs_ps(d) : _mm_mul_ps(d, d); }
 
-// Inf: largest |a - b| by channel; NaN samples are passed over. Sample i of
-// the row goes to lane i % P (P = 4, or 12 for three channels).
-template <int CH, bool DIFF>
-inline void inf_row_32f(const Zel32f* a, const Zel32f* b, int n, float* mx) {
-    constexpr int V = CH == 3 ? 3 : 1, P = 4 * V;
+// One 32f row of ns samples over P Zel32f lanes, sample i to lane i % P; R
+// gives the step of one lane, in vector and scalar form. The caller folds the
+// lanes into channels (lane j belongs to channel j % CH).
+template <class R, int P, bool DIFF>
+inline void lanes_32f(const Zel32f* a, const Zel32f* b, int ns, float* lane) {
+    constexpr int V = P / 4;
     __m128 acc[V];
     for (int v = 0; v < V; ++v) acc[v] = _mm_setzero_ps();
-    const int ns = n * CH;
     int x = 0;
     for (; x + P <= ns; x += P)
         for (int v = 0; v < V; ++v) {
             __m128 d = _mm_loadu_ps(a + x + 4 * v);
             if (DIFF) d = _mm_sub_ps(d, _mm_loadu_ps(b + x + 4 * v));
-            acc[v] = _mm_max_ps(abs_ps(d), acc[v]); // a NaN operand keeps acc
+            acc[v] = R::vec(acc[v], d);
         }
-    alignas(16) float l[P];
-    for (int v = 0; v < V; ++v) _mm_store_ps(l + 4 * v, acc[v]);
-    for (int j = 0; x < ns; ++x, ++j) {
-        const float d = abs_f(DIFF ? a[x] - b[x] : a[x]);
-        l[j] = d > l[j] ? d : l[j];
-    }
+    for (int v = 0; v < V; ++v) _mm_storeu_ps(lane + 4 * v, acc[v]);
+    for (int j = 0; x < ns; ++x, ++j) lane[j] = R::one(lane[j], DIFF ? a[x] - b[x] : a[x]);
+}
+
+// Largest magnitude; a NaN sample keeps the lane as it was.
+struct MaxAbs {
+    static __m128 vec(__m128 acc, __m128 d) { return _mm_max_ps(abs_ps(d), acc); }
+    static float one(float acc, float d) { return abs_f(d) > acc ? abs_f(d) : acc; }
+};
+template <NormKind K>
+struct SumTerm {
+    static __m128 vec(__m128 acc, __m128 d) { return _mm_add_ps(acc, term_ps<K>(d)); }
+    static float one(float acc, float d) { return acc + term_f<K>(d); }
+};
+
+// Inf by channel over 4 lanes (12 for three channels).
+template <int CH, bool DIFF>
+inline void inf_row_32f(const Zel32f* a, const Zel32f* b, int n, float* mx) {
+    constexpr int P = CH == 3 ? 12 : 4;
+    float l[P];
+    lanes_32f<MaxAbs, P, DIFF>(a, b, n * CH, l);
     for (int j = 0; j < P; ++j) mx[j % CH] = l[j] > mx[j % CH] ? l[j] : mx[j % CH];
 }
 
-// Fast path: sample i of a row adds to Zel32f lane i % P (P = 8, or 24 for
-// three channels); at the end of the row lane j is added, in order of j, to
-// the Zel64f total of channel j % CH.
+// Fast path: Zel32f sums over 8 lanes (24 for three channels); at the end of
+// the row lane j is added, in order of j, to the Zel64f total of its channel.
 template <NormKind K, int CH, bool DIFF>
 inline void fast_row_32f(const Zel32f* a, const Zel32f* b, int n, double* tot) {
-    constexpr int P = CH == 3 ? 24 : 8, V = P / 4;
-    alignas(16) float lane[P];
-    __m128 acc[V];
-    for (int v = 0; v < V; ++v) acc[v] = _mm_setzero_ps();
-    const int ns = n * CH;
-    int x = 0;
-    for (; x + P <= ns; x += P)
-        for (int v = 0; v < V; ++v) {
-            __m128 d = _mm_loadu_ps(a + x + 4 * v);
-            if (DIFF) d = _mm_sub_ps(d, _mm_loadu_ps(b + x + 4 * v));
-            acc[v] = _mm_add_ps(acc[v], term_ps<K>(d));
-        }
-    for (int v = 0; v < V; ++v) _mm_store_ps(lane + 4 * v, acc[v]);
-    for (int j = 0; x < ns; ++x, ++j) lane[j] += term_f<K>(DIFF ? a[x] - b[x] : a[x]);
+    constexpr int P = CH == 3 ? 24 : 8;
+    float lane[P];
+    lanes_32f<SumTerm<K>, P, DIFF>(a, b, n * CH, lane);
     for (int j = 0; j < P; ++j) tot[j % CH] += double(lane[j]);
 }
 

@@ -225,7 +225,9 @@ void int_pass(const T* a, int sa, const T* b, int sb, ZeliSize roi, double* out)
     constexpr bool SAT = std::is_same<T, Zel16s>::value && !DIFF;
     int w = roi.width, h = roi.height;
     const long long rowBytes = (long long)w * CH * sizeof(T);
-    if (CH == 1 && (DIFF ? contiguous(rowBytes, h, INT_MAX, sa, sb) : contiguous(rowBytes, h, INT_MAX, sa))) {
+    // (the saturating 16s maximum stays by rows: it stops at the first row
+    // that reaches 32767 and reads no further)
+    if (CH == 1 && !SAT && (DIFF ? contiguous(rowBytes, h, INT_MAX, sa, sb) : contiguous(rowBytes, h, INT_MAX, sa))) {
         w *= h;
         h = 1;
     }

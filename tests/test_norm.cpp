@@ -230,6 +230,13 @@ TEST(Norm, Inf16sSaturates) {
     double v = 0;
     EXPECT_EQ(zeliNorm_Inf_16s_C1R(a.ptr(), a.step(), a.size(), &v), zelStatusOk);
     EXPECT_EQ(v, 32767.0);
+    // The scan stops at the row that reaches 32767: the rows below it lie
+    // past the guard page here and must not be read.
+    zt::Image<Zel16s> one(40, 1, 1);
+    one.fill_bytes(0);
+    one.at(39, 0) = -32768;
+    EXPECT_EQ(zeliNorm_Inf_16s_C1R(one.ptr(), one.step(), ZeliSize{40, 1000}, &v), zelStatusOk);
+    EXPECT_EQ(v, 32767.0);
     zt::Image<Zel16s> b(40, 5, 1);
     b.fill_bytes(0);
     b.at(3, 4) = 32767; // differences are not saturated

@@ -86,36 +86,30 @@ inline void bins_from_table(const Zel32s* tab, int size, int base, const Zel32s*
     }
 }
 
-// One scan of an 8u image into one 256-entry table a channel, four samples a
-// step from the end of each row. One channel spreads its samples over four
-// tables, merged after the scan, so that neighbouring samples do not wait for
-// each other's increment; with 3 or 4 channels each channel has its table.
+// One scan of an 8u image into one 256-entry table a channel, from the end of
+// each row: four load-and-increment steps a loop for one channel, a pixel a
+// step for interleaved ones.
 template <int CH, int NA>
 inline void table_8u(const Zel8u* src, int step, ZeliSize roi, Zel32s (*tab)[256]) {
-    constexpr int NT = CH == 1 ? 4 : CH;
-    std::memset(tab, 0, sizeof(Zel32s) * 256 * NT);
+    std::memset(tab, 0, sizeof(Zel32s) * 256 * CH);
     const int n = roi.width * CH;
-    Zel32s* t[4] = {tab[0], tab[1 % NT], tab[2 % NT], tab[3 % NT]};
     for (int r = 0; r < roi.height; ++r) {
         const Zel8u* p = row(src, step, r);
-        int x = n;
-        if (CH == 1) { // four samples: one of each table
-            for (; x >= 4; x -= 4) {
-                std::uint32_t q;
-                std::memcpy(&q, p + x - 4, 4);
-                ++t[0][q & 0xff];
-                ++t[1][(q >> 8) & 0xff];
-                ++t[2][(q >> 16) & 0xff];
-                ++t[3][q >> 24];
+        const Zel8u* q = p + n;
+        if (CH == 1) {
+            Zel32s* t = tab[0];
+            for (; q - p >= 4; q -= 4) {
+                ++t[q[-1]];
+                ++t[q[-2]];
+                ++t[q[-3]];
+                ++t[q[-4]];
             }
-            for (; x > 0; --x) ++t[0][p[x - 1]];
-        } else { // a pixel a step, each sample to its channel's table
-            for (; x > 0; x -= CH)
-                for (int c = 0; c < NA; ++c) ++t[c][p[x - CH + c]];
+            while (q > p) ++t[*--q];
+        } else {
+            for (; q > p; q -= CH)
+                for (int c = 0; c < NA; ++c) ++tab[c][q[c - CH]];
         }
     }
-    if (CH == 1)
-        for (int i = 0; i < 256; ++i) tab[0][i] += tab[1][i] + tab[2][i] + tab[3][i];
 }
 
 // Forward scan of four samples of one channel at a time: a sample inside
@@ -188,7 +182,7 @@ template <class T, Layout L, class LV>
 ZelStatus histogram(const T* src, int step, ZeliSize roi, Zel32s* const* hist, const LV* const* lv, const int* nLevels) {
     constexpr int CH = channels(L), NA = active(L);
     if constexpr (std::is_same<T, Zel8u>::value) {
-        alignas(16) Zel32s tab[CH == 1 ? 4 : CH][256];
+        alignas(16) Zel32s tab[CH][256];
         table_8u<CH, NA>(src, step, roi, tab);
         for (int c = 0; c < NA; ++c) bins_from_table(tab[c], 256, 0, lv[c], nLevels[c], hist[c]);
         return zelStatusOk;

@@ -38,8 +38,10 @@ inline T operand(const Consts<T>& k, int, int c) { return k.v[c]; }
 template <class T, int C, int A, class Op, class B>
 inline void cmp_row(const T* a, B b, Zel8u* d, int w, Op op) {
     if constexpr (A == 1) {
+#pragma omp simd
         for (int x = 0; x < w; ++x) d[x] = op(a[x], operand<T, C>(b, x, 0)) ? 255 : 0;
     } else {
+#pragma omp simd
         for (int x = 0; x < w; ++x) {
             bool all = true;
             for (int c = 0; c < A; ++c) all &= op(a[std::ptrdiff_t(x) * C + c], operand<T, C>(b, x, c));

@@ -69,9 +69,12 @@ struct ThrLTGT { // below tLT gives vLT, above tGT gives vGT
 // d = rule(s) on the A active samples of each pixel; the rest stay.
 template <class T, int C, int A, class Rule>
 inline void threshold_row(const T* s, T* d, int w, Rule rule) {
+    // Each sample depends only on itself, so in-place rows vectorise as well.
     if constexpr (C == 1) {
+#pragma omp simd
         for (int x = 0; x < w; ++x) d[x] = rule(s[x], 0);
     } else {
+#pragma omp simd
         for (int x = 0; x < w; ++x)
             for (int c = 0; c < A; ++c) d[std::ptrdiff_t(x) * C + c] = rule(s[std::ptrdiff_t(x) * C + c], c);
     }

@@ -162,42 +162,26 @@ void CV_Compare_8u_C1(benchmark::State& st) {
 }
 ZB_THREADS(CV_Compare_8u_C1);
 
-// GTVal with value 0 is THRESH_TOZERO_INV; the plain GT is THRESH_TRUNC.
-void CV_Threshold_ToZeroInv_8u_C1(benchmark::State& st) {
+// cv::threshold of one type: GTVal with value 0 is THRESH_TOZERO_INV, the
+// plain GT is THRESH_TRUNC; OpenCV has no two-sided replacement, THRESH_TRUNC
+// is the closest single pass for LTValGTVal; with THRESH_OTSU OpenCV computes
+// the level and applies it (the level alone is not offered).
+void CV_Threshold(benchmark::State& st, int depth, double level, int type, double bytesPerPixel) {
     zb::set_threads(int(st.range(0)));
-    Img<Zel8u> s(W, H, 1), d(W, H, 1);
-    cv::Mat a = s.mat(CV_8U), b = d.mat(CV_8U);
-    for (auto _ : st) cv::threshold(a, b, 100, 0, cv::THRESH_TOZERO_INV);
-    zb::bytes(st, 2.0 * W * H);
+    const int sampleBytes = int(CV_ELEM_SIZE1(depth));
+    Img<Zel8u> s(W * sampleBytes, H, 1), d(W * sampleBytes, H, 1);
+    cv::Mat a(H, W, depth, s.p, s.step), b(H, W, depth, d.p, d.step);
+    if (depth == CV_32F) a.forEach<float>([](float& v, const int*) { v = float(int(v) % 256); });
+    for (auto _ : st) cv::threshold(a, b, level, 0, type);
+    zb::bytes(st, bytesPerPixel * W * H);
 }
-void CV_Threshold_Trunc_16u_C1(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    Img<Zel16u> s(W, H, 1), d(W, H, 1);
-    cv::Mat a = s.mat(CV_16U), b = d.mat(CV_16U);
-    for (auto _ : st) cv::threshold(a, b, 30000, 0, cv::THRESH_TRUNC);
-    zb::bytes(st, 4.0 * W * H);
-}
-// OpenCV has no two-sided replacement in one pass; THRESH_TRUNC is the
-// closest single pass over the same data.
-void CV_Threshold_Trunc_32f_C1(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    Img<Zel32f> s(W, H, 1), d(W, H, 1);
-    cv::Mat a = s.mat(CV_32F), b = d.mat(CV_32F);
-    for (auto _ : st) cv::threshold(a, b, 200.f, 0.f, cv::THRESH_TRUNC);
-    zb::bytes(st, 8.0 * W * H);
-}
-// OpenCV computes the level and applies it; the level alone is not offered.
-void CV_Threshold_Otsu_8u_C1(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    Img<Zel8u> s(W, H, 1), d(W, H, 1);
-    cv::Mat a = s.mat(CV_8U), b = d.mat(CV_8U);
-    for (auto _ : st) cv::threshold(a, b, 0, 255, cv::THRESH_BINARY | cv::THRESH_OTSU);
-    zb::bytes(st, 1.0 * W * H);
-}
-ZB_THREADS(CV_Threshold_ToZeroInv_8u_C1);
-ZB_THREADS(CV_Threshold_Trunc_16u_C1);
-ZB_THREADS(CV_Threshold_Trunc_32f_C1);
-ZB_THREADS(CV_Threshold_Otsu_8u_C1);
+#define ZB_CV_THRESHOLD(NAME, D, LEVEL, TYPE, BYTES) \
+    BENCHMARK_CAPTURE(CV_Threshold, NAME, D, LEVEL, TYPE, BYTES)->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond)->UseRealTime()
+ZB_CV_THRESHOLD(ToZeroInv_8u_C1, CV_8U, 100, cv::THRESH_TOZERO_INV, 2.0);
+ZB_CV_THRESHOLD(Trunc_16u_C1, CV_16U, 30000, cv::THRESH_TRUNC, 4.0);
+ZB_CV_THRESHOLD(Trunc_32f_C1, CV_32F, 200, cv::THRESH_TRUNC, 8.0);
+ZB_CV_THRESHOLD(Otsu_8u_C1, CV_8U, 0, cv::THRESH_BINARY | cv::THRESH_OTSU, 1.0);
+
 #endif
 
 } // namespace

@@ -133,19 +133,13 @@ ZelStatus swap_channels_c3c4(const T* src, int srcStep, T* dst, int dstStep, Zel
 // Vector helpers on blocks of E-byte pixels (E = 1, 2, 4, 8, 16).
 // ===========================================================================
 
-template <int E>
-inline __m128i unpack_lo(__m128i a, __m128i b) {
-    if constexpr (E == 1) return _mm_unpacklo_epi8(a, b);
-    else if constexpr (E == 2) return _mm_unpacklo_epi16(a, b);
-    else if constexpr (E == 4) return _mm_unpacklo_epi32(a, b);
-    else return _mm_unpacklo_epi64(a, b);
-}
-template <int E>
-inline __m128i unpack_hi(__m128i a, __m128i b) {
-    if constexpr (E == 1) return _mm_unpackhi_epi8(a, b);
-    else if constexpr (E == 2) return _mm_unpackhi_epi16(a, b);
-    else if constexpr (E == 4) return _mm_unpackhi_epi32(a, b);
-    else return _mm_unpackhi_epi64(a, b);
+// Interleaves the low (Hi false) or high halves of two registers in E-byte units.
+template <int E, bool Hi>
+inline __m128i unpack(__m128i a, __m128i b) {
+    if constexpr (E == 1) return Hi ? _mm_unpackhi_epi8(a, b) : _mm_unpacklo_epi8(a, b);
+    else if constexpr (E == 2) return Hi ? _mm_unpackhi_epi16(a, b) : _mm_unpacklo_epi16(a, b);
+    else if constexpr (E == 4) return Hi ? _mm_unpackhi_epi32(a, b) : _mm_unpacklo_epi32(a, b);
+    else return Hi ? _mm_unpackhi_epi64(a, b) : _mm_unpacklo_epi64(a, b);
 }
 
 constexpr bool vector_pixel(int E) { return E == 1 || E == 2 || E == 4 || E == 8; }
@@ -164,8 +158,8 @@ inline void transpose_block(const unsigned char* s, std::ptrdiff_t ss, unsigned 
     for (int i = 0; i < n; ++i) r[i] = loadu(s + i * ss);
     for (int round = 1; round < n; round <<= 1) {
         for (int i = 0; i < n / 2; ++i) {
-            t[2 * i] = unpack_lo<E>(r[i], r[i + n / 2]);
-            t[2 * i + 1] = unpack_hi<E>(r[i], r[i + n / 2]);
+            t[2 * i] = unpack<E, false>(r[i], r[i + n / 2]);
+            t[2 * i + 1] = unpack<E, true>(r[i], r[i + n / 2]);
         }
         for (int i = 0; i < n; ++i) r[i] = t[i];
     }
@@ -190,27 +184,24 @@ inline void transpose_scalar(const unsigned char* s, std::ptrdiff_t ss, unsigned
     }
 }
 
-// Tiles of t x t with t the smaller of 64 and the shorter side; inside a tile
-// vector blocks where E allows, single pixels at the edges.
+// Bands of up to 512 source rows; inside a band, columns of vector blocks from
+// top to bottom, so that each destination row is written in one sweep while
+// the band's source lines stay in the cache for the next column. Pixels
+// outside the vector grid (and pixel sizes without a vector kernel) go one
+// at a time.
 template <int E, bool NT>
 void transpose_tiled(const unsigned char* s, std::ptrdiff_t ss, unsigned char* d, std::ptrdiff_t ds, int w, int h) {
-    const int t = std::min(64, std::min(w, h));
-    for (int by = 0; by < h; by += t) {
-        const int ey = std::min(h, by + t);
-        for (int bx = 0; bx < w; bx += t) {
-            const int ex = std::min(w, bx + t);
-            int fy = by, fx = bx;
-            if constexpr (vector_pixel(E)) {
-                constexpr int n = 16 / E;
-                fy = by + (ey - by) / n * n;
-                fx = bx + (ex - bx) / n * n;
+    constexpr int n = vector_pixel(E) ? 16 / E : 1, band = 512;
+    const int fx = vector_pixel(E) ? w / n * n : 0;
+    for (int by = 0; by < h; by += band) {
+        const int ey = std::min(h, by + band);
+        const int fy = vector_pixel(E) ? by + (ey - by) / n * n : by;
+        if constexpr (vector_pixel(E))
+            for (int x = 0; x < fx; x += n)
                 for (int y = by; y < fy; y += n)
-                    for (int x = bx; x < fx; x += n)
-                        transpose_block<E, NT>(s + y * ss + std::ptrdiff_t(x) * E, ss, d + x * ds + std::ptrdiff_t(y) * E, ds);
-            }
-            transpose_scalar<E>(s, ss, d, ds, fx, ex, by, fy);
-            transpose_scalar<E>(s, ss, d, ds, bx, ex, fy, ey);
-        }
+                    transpose_block<E, NT>(s + y * ss + std::ptrdiff_t(x) * E, ss, d + x * ds + std::ptrdiff_t(y) * E, ds);
+        transpose_scalar<E>(s, ss, d, ds, fx, w, by, fy);
+        transpose_scalar<E>(s, ss, d, ds, 0, w, fy, ey);
     }
 }
 

@@ -193,7 +193,7 @@ TEST(ReorderSwap, InPlaceAndStatus) {
 TYPED_TEST(Reorder, Transpose) {
     using T = TypeParam;
     using F = Fns<T>;
-    const std::pair<int, int> sizes[] = {{1, 1}, {1, 17}, {17, 1}, {3, 2}, {16, 16}, {17, 33}, {64, 64}, {65, 130}, {130, 67}, {200, 31}};
+    const std::pair<int, int> sizes[] = {{1, 1}, {1, 17}, {17, 1}, {3, 2}, {16, 16}, {17, 33}, {64, 64}, {65, 130}, {130, 67}, {200, 31}, {33, 1030}};
     std::mt19937 rng(11);
     for (int C : {1, 3, 4})
         for (auto [w, h] : sizes)

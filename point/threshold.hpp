@@ -63,7 +63,12 @@ struct ThrValLT { // x below t gives value
 template <class T>
 struct ThrLTGT { // below tLT gives vLT, above tGT gives vGT
     ChannelParams<T> tl, vl, tg, vg;
-    T operator()(T x, int c) const { return x < tl.v[c] ? vl.v[c] : (x > tg.v[c] ? vg.v[c] : x); }
+    // The two sides cannot both hold (the upper level is not below the lower
+    // one), so the replacements can be applied one after the other.
+    T operator()(T x, int c) const {
+        const T upper = x > tg.v[c] ? vg.v[c] : x;
+        return x < tl.v[c] ? vl.v[c] : upper;
+    }
 };
 
 // d = rule(s) on the A active samples of each pixel; the rest stay.

@@ -36,144 +36,113 @@ struct Img {
 
 constexpr int W = zb::kW, H = zb::kH;
 
-// ---- Transpose ---------------------------------------------------------------
-void Transpose_8u_C1(benchmark::State& st) {
+// Sets the thread count of the run, times `call` and reports the bytes moved.
+template <class F>
+void timed(benchmark::State& st, double bytesPerIteration, F&& call) {
     zb::set_threads(int(st.range(0)));
+    for (auto _ : st) call();
+    zb::bytes(st, bytesPerIteration);
+}
+#define ZB_AXES(fn) BENCHMARK(fn)->ArgsProduct({{1, 2}, {0, 1, 2}})->Unit(benchmark::kMicrosecond)->UseRealTime()
+
+// ---- Ours ----------------------------------------------------------------------
+void Transpose_8u_C1(benchmark::State& st) {
     Img<Zel8u> s(W, H, 1), d(H, W, 1);
-    for (auto _ : st) zeliTranspose_8u_C1R(s.p, s.step, d.p, d.step, s.size());
-    zb::bytes(st, 2.0 * W * H);
+    timed(st, 2.0 * W * H, [&] { zeliTranspose_8u_C1R(s.p, s.step, d.p, d.step, s.size()); });
 }
 void Transpose_32f_C1(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
     Img<Zel32f> s(W, H, 1), d(H, W, 1);
-    for (auto _ : st) zeliTranspose_32f_C1R(s.p, s.step, d.p, d.step, s.size());
-    zb::bytes(st, 8.0 * W * H);
+    timed(st, 8.0 * W * H, [&] { zeliTranspose_32f_C1R(s.p, s.step, d.p, d.step, s.size()); });
+}
+// Axis 0 about the horizontal axis, 1 about the vertical, 2 both.
+void Mirror_8u_C3(benchmark::State& st) {
+    Img<Zel8u> s(W, H, 3), d(W, H, 3);
+    const int axis = int(st.range(1));
+    timed(st, 6.0 * W * H, [&] { zeliMirror_8u_C3R(s.p, s.step, d.p, d.step, s.size(), axis); });
+}
+void SwapChannels_8u_C3(benchmark::State& st) {
+    Img<Zel8u> s(W, H, 3), d(W, H, 3);
+    const int order[3] = {2, 1, 0};
+    timed(st, 6.0 * W * H, [&] { zeliSwapChannels_8u_C3R(s.p, s.step, d.p, d.step, s.size(), order); });
+}
+void CompareC_8u_C1(benchmark::State& st) {
+    Img<Zel8u> s(W, H, 1), d(W, H, 1);
+    timed(st, 2.0 * W * H, [&] { zeliCompareC_8u_C1R(s.p, s.step, 100, d.p, d.step, s.size(), zelCmpGreater); });
+}
+void Threshold_GTVal_8u_C1(benchmark::State& st) {
+    Img<Zel8u> s(W, H, 1), d(W, H, 1);
+    timed(st, 2.0 * W * H, [&] { zeliThreshold_GTVal_8u_C1R(s.p, s.step, d.p, d.step, s.size(), 100, 0); });
+}
+void Threshold_16u_C1(benchmark::State& st) {
+    Img<Zel16u> s(W, H, 1), d(W, H, 1);
+    timed(st, 4.0 * W * H, [&] { zeliThreshold_16u_C1R(s.p, s.step, d.p, d.step, s.size(), 30000, zelCmpGreater); });
+}
+void Threshold_LTValGTVal_32f_C1(benchmark::State& st) {
+    Img<Zel32f> s(W, H, 1), d(W, H, 1);
+    timed(st, 8.0 * W * H, [&] { zeliThreshold_LTValGTVal_32f_C1R(s.p, s.step, d.p, d.step, s.size(), 50.f, 0.f, 200.f, 255.f); });
+}
+void Otsu_8u_C1(benchmark::State& st) {
+    Img<Zel8u> s(W, H, 1);
+    Zel8u t = 0;
+    timed(st, 1.0 * W * H, [&] { zeliComputeThreshold_Otsu_8u_C1R(s.p, s.step, s.size(), &t); });
+    benchmark::DoNotOptimize(t);
 }
 ZB_THREADS(Transpose_8u_C1);
 ZB_THREADS(Transpose_32f_C1);
-
-// ---- Mirror ------------------------------------------------------------------
-void Mirror_8u_C3(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    Img<Zel8u> s(W, H, 3), d(W, H, 3);
-    const int axis = int(st.range(1));
-    for (auto _ : st) zeliMirror_8u_C3R(s.p, s.step, d.p, d.step, s.size(), axis);
-    zb::bytes(st, 6.0 * W * H);
-}
-BENCHMARK(Mirror_8u_C3)->ArgsProduct({{1, 2}, {0, 1, 2}})->Unit(benchmark::kMicrosecond)->UseRealTime();
-
-// ---- Swap channels -------------------------------------------------------------
-void SwapChannels_8u_C3(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    Img<Zel8u> s(W, H, 3), d(W, H, 3);
-    const int order[3] = {2, 1, 0};
-    for (auto _ : st) zeliSwapChannels_8u_C3R(s.p, s.step, d.p, d.step, s.size(), order);
-    zb::bytes(st, 6.0 * W * H);
-}
+ZB_AXES(Mirror_8u_C3);
 ZB_THREADS(SwapChannels_8u_C3);
-
-// ---- Compare -------------------------------------------------------------------
-void CompareC_8u_C1(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    Img<Zel8u> s(W, H, 1), d(W, H, 1);
-    for (auto _ : st) zeliCompareC_8u_C1R(s.p, s.step, 100, d.p, d.step, s.size(), zelCmpGreater);
-    zb::bytes(st, 2.0 * W * H);
-}
 ZB_THREADS(CompareC_8u_C1);
-
-// ---- Threshold -----------------------------------------------------------------
-void Threshold_GTVal_8u_C1(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    Img<Zel8u> s(W, H, 1), d(W, H, 1);
-    for (auto _ : st) zeliThreshold_GTVal_8u_C1R(s.p, s.step, d.p, d.step, s.size(), 100, 0);
-    zb::bytes(st, 2.0 * W * H);
-}
-void Threshold_16u_C1(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    Img<Zel16u> s(W, H, 1), d(W, H, 1);
-    for (auto _ : st) zeliThreshold_16u_C1R(s.p, s.step, d.p, d.step, s.size(), 30000, zelCmpGreater);
-    zb::bytes(st, 4.0 * W * H);
-}
-void Threshold_LTValGTVal_32f_C1(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    Img<Zel32f> s(W, H, 1), d(W, H, 1);
-    for (auto _ : st) zeliThreshold_LTValGTVal_32f_C1R(s.p, s.step, d.p, d.step, s.size(), 50.f, 0.f, 200.f, 255.f);
-    zb::bytes(st, 8.0 * W * H);
-}
-void Otsu_8u_C1(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    Img<Zel8u> s(W, H, 1);
-    Zel8u t = 0;
-    for (auto _ : st) zeliComputeThreshold_Otsu_8u_C1R(s.p, s.step, s.size(), &t);
-    benchmark::DoNotOptimize(t);
-    zb::bytes(st, 1.0 * W * H);
-}
 ZB_THREADS(Threshold_GTVal_8u_C1);
 ZB_THREADS(Threshold_16u_C1);
 ZB_THREADS(Threshold_LTValGTVal_32f_C1);
 ZB_THREADS(Otsu_8u_C1);
 
+// ---- OpenCV --------------------------------------------------------------------
 #ifdef ZEL_HAVE_OPENCV
 void CV_Transpose_8u_C1(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
     Img<Zel8u> s(W, H, 1), d(H, W, 1);
     cv::Mat a = s.mat(CV_8U), b = d.mat(CV_8U);
-    for (auto _ : st) cv::transpose(a, b);
-    zb::bytes(st, 2.0 * W * H);
+    timed(st, 2.0 * W * H, [&] { cv::transpose(a, b); });
 }
 void CV_Transpose_32f_C1(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
     Img<Zel32f> s(W, H, 1), d(H, W, 1);
     cv::Mat a = s.mat(CV_32F), b = d.mat(CV_32F);
-    for (auto _ : st) cv::transpose(a, b);
-    zb::bytes(st, 8.0 * W * H);
+    timed(st, 8.0 * W * H, [&] { cv::transpose(a, b); });
 }
-ZB_THREADS(CV_Transpose_8u_C1);
-ZB_THREADS(CV_Transpose_32f_C1);
-
 // cv::flip codes: 0 about the horizontal axis, 1 about the vertical, -1 both.
 void CV_Flip_8u_C3(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
     Img<Zel8u> s(W, H, 3), d(W, H, 3);
     cv::Mat a = s.mat(CV_8U), b = d.mat(CV_8U);
-    const int code[3] = {0, 1, -1};
-    const int c = code[st.range(1)];
-    for (auto _ : st) cv::flip(a, b, c);
-    zb::bytes(st, 6.0 * W * H);
+    const int code[3] = {0, 1, -1}, c = code[st.range(1)];
+    timed(st, 6.0 * W * H, [&] { cv::flip(a, b, c); });
 }
-BENCHMARK(CV_Flip_8u_C3)->ArgsProduct({{1, 2}, {0, 1, 2}})->Unit(benchmark::kMicrosecond)->UseRealTime();
-
 void CV_MixChannels_8u_C3(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
     Img<Zel8u> s(W, H, 3), d(W, H, 3);
     cv::Mat a = s.mat(CV_8U), b = d.mat(CV_8U);
     const int pairs[6] = {0, 2, 1, 1, 2, 0};
-    for (auto _ : st) cv::mixChannels(&a, 1, &b, 1, pairs, 3);
-    zb::bytes(st, 6.0 * W * H);
+    timed(st, 6.0 * W * H, [&] { cv::mixChannels(&a, 1, &b, 1, pairs, 3); });
 }
-ZB_THREADS(CV_MixChannels_8u_C3);
-
 void CV_Compare_8u_C1(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
     Img<Zel8u> s(W, H, 1), d(W, H, 1);
     cv::Mat a = s.mat(CV_8U), b = d.mat(CV_8U);
-    for (auto _ : st) cv::compare(a, 100, b, cv::CMP_GT);
-    zb::bytes(st, 2.0 * W * H);
+    timed(st, 2.0 * W * H, [&] { cv::compare(a, 100, b, cv::CMP_GT); });
 }
+ZB_THREADS(CV_Transpose_8u_C1);
+ZB_THREADS(CV_Transpose_32f_C1);
+ZB_AXES(CV_Flip_8u_C3);
+ZB_THREADS(CV_MixChannels_8u_C3);
 ZB_THREADS(CV_Compare_8u_C1);
 
-// cv::threshold of one type: GTVal with value 0 is THRESH_TOZERO_INV, the
+// cv::threshold of one depth: GTVal with value 0 is THRESH_TOZERO_INV, the
 // plain GT is THRESH_TRUNC; OpenCV has no two-sided replacement, THRESH_TRUNC
 // is the closest single pass for LTValGTVal; with THRESH_OTSU OpenCV computes
 // the level and applies it (the level alone is not offered).
 void CV_Threshold(benchmark::State& st, int depth, double level, int type, double bytesPerPixel) {
-    zb::set_threads(int(st.range(0)));
     const int sampleBytes = int(CV_ELEM_SIZE1(depth));
     Img<Zel8u> s(W * sampleBytes, H, 1), d(W * sampleBytes, H, 1);
     cv::Mat a(H, W, depth, s.p, s.step), b(H, W, depth, d.p, d.step);
     if (depth == CV_32F) a.forEach<float>([](float& v, const int*) { v = float(int(v) % 256); });
-    for (auto _ : st) cv::threshold(a, b, level, 0, type);
-    zb::bytes(st, bytesPerPixel * W * H);
+    timed(st, bytesPerPixel * W * H, [&] { cv::threshold(a, b, level, 0, type); });
 }
 #define ZB_CV_THRESHOLD(NAME, D, LEVEL, TYPE, BYTES) \
     BENCHMARK_CAPTURE(CV_Threshold, NAME, D, LEVEL, TYPE, BYTES)->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond)->UseRealTime()
@@ -181,7 +150,6 @@ ZB_CV_THRESHOLD(ToZeroInv_8u_C1, CV_8U, 100, cv::THRESH_TOZERO_INV, 2.0);
 ZB_CV_THRESHOLD(Trunc_16u_C1, CV_16U, 30000, cv::THRESH_TRUNC, 4.0);
 ZB_CV_THRESHOLD(Trunc_32f_C1, CV_32F, 200, cv::THRESH_TRUNC, 8.0);
 ZB_CV_THRESHOLD(Otsu_8u_C1, CV_8U, 0, cv::THRESH_BINARY | cv::THRESH_OTSU, 1.0);
-
 #endif
 
 } // namespace

@@ -1,0 +1,361 @@
+// Copy, set and duplicate in every layout. Whole-pixel copies and fills go to
+// the byte routines of copy_bytes.hpp; the other forms have small per-type
+// kernels built from the templates below.
+#include "core/frame.hpp"
+#include "point/copy_bytes.hpp"
+
+namespace zel {
+namespace {
+
+// ---- Masked rows -----------------------------------------------------------
+// Visits the pixels whose mask byte is not zero, 16 mask bytes at a time: an
+// all-zero block is skipped, an all-set block goes to `block(x)` (16 pixels
+// from x), a mixed one pixel by pixel through `put(x)`.
+template <class Put, class Block>
+inline void masked_row(const u8* m, int w, Put&& put, Block&& block) {
+    const __m128i zero = _mm_setzero_si128();
+    int x = 0;
+    for (; x + 16 <= w; x += 16) {
+        const int isZero = _mm_movemask_epi8(_mm_cmpeq_epi8(ld(m + x), zero));
+        if (isZero == 0xFFFF) continue;
+        if (isZero == 0) {
+            block(x);
+            continue;
+        }
+        for (int k = 0; k < 16; ++k)
+            if (!((isZero >> k) & 1)) put(x + k);
+    }
+    for (; x < w; ++x)
+        if (m[x]) put(x);
+}
+
+// Masked copy of rows. With Repeat the source is one block of 16 pixels that
+// every block of the destination receives (the masked set).
+template <class T, Layout L, bool Repeat>
+void masked_rows(const T* s, int ss, T* d, int ds, ZeliSize roi, const u8* m, int ms) {
+    constexpr int C = channels(L), A = active(L);
+    for (int r = 0; r < roi.height; ++r) {
+        const T* sr = Repeat ? s : row(s, ss, r);
+        T* dr = row(d, ds, r);
+        auto put = [&](int x) {
+            const T* sp = sr + (Repeat ? (x & 15) : x) * C;
+            T* dp = dr + std::ptrdiff_t(x) * C;
+            for (int c = 0; c < A; ++c) dp[c] = sp[c];
+        };
+        auto block = [&](int x) {
+            if constexpr (L == AC4) {
+                for (int k = 0; k < 16; ++k) put(x + k);
+            } else {
+                std::memcpy(dr + std::ptrdiff_t(x) * C, Repeat ? sr : sr + std::ptrdiff_t(x) * C, sizeof(T) * 16 * C);
+            }
+        };
+        masked_row(row(m, ms, r), roi.width, put, block);
+    }
+}
+
+// ---- Planar and interleaved --------------------------------------------------
+// Byte shuffles between C interleaved vectors and C plane vectors of samples of
+// S bytes: 16 / S pixels a block. split[c][r] picks from interleaved vector r
+// the bytes of plane c; join[j][c] picks from plane c the bytes of interleaved
+// vector j. 0x80 marks a byte that comes from another vector.
+template <int S, int C>
+struct PlaneShuffle {
+    u8 split[C][C][16];
+    u8 join[C][C][16];
+    constexpr PlaneShuffle() : split{}, join{} {
+        for (int c = 0; c < C; ++c)
+            for (int r = 0; r < C; ++r)
+                for (int k = 0; k < 16; ++k) {
+                    const int pos = ((k / S) * C + c) * S + k % S;
+                    split[c][r][k] = u8(pos / 16 == r ? pos % 16 : 0x80);
+                }
+        for (int j = 0; j < C; ++j)
+            for (int c = 0; c < C; ++c)
+                for (int k = 0; k < 16; ++k) {
+                    const int q = j * 16 + k, pix = q / (C * S), rem = q % (C * S);
+                    join[j][c][k] = u8(rem / S == c ? pix * S + rem % S : 0x80);
+                }
+    }
+};
+template <int S, int C>
+constexpr PlaneShuffle<S, C> kPlaneShuffle{};
+
+inline void put16(void* p, __m128i v, bool nt) {
+    if (nt && misalign16(p) == 0)
+        stn(p, v);
+    else
+        stu(p, v);
+}
+
+template <class T, int C>
+void split_row(const T* s, T* const* p, int w, bool nt) {
+    constexpr int S = sizeof(T), K = 16 / S;
+    const auto& sh = kPlaneShuffle<S, C>;
+    int x = 0;
+    for (; x + K <= w; x += K) {
+        __m128i in[C];
+        for (int r = 0; r < C; ++r) in[r] = ld(reinterpret_cast<const u8*>(s + std::ptrdiff_t(x) * C) + 16 * r);
+        for (int c = 0; c < C; ++c) {
+            __m128i o = _mm_shuffle_epi8(in[0], ld(sh.split[c][0]));
+            for (int r = 1; r < C; ++r) o = _mm_or_si128(o, _mm_shuffle_epi8(in[r], ld(sh.split[c][r])));
+            put16(p[c] + x, o, nt);
+        }
+    }
+    for (; x < w; ++x)
+        for (int c = 0; c < C; ++c) p[c][x] = s[std::ptrdiff_t(x) * C + c];
+}
+
+template <class T, int C>
+void join_row(const T* const* p, T* d, int w, bool nt) {
+    constexpr int S = sizeof(T), K = 16 / S;
+    const auto& sh = kPlaneShuffle<S, C>;
+    int x = 0;
+    for (; x + K <= w; x += K) {
+        __m128i in[C];
+        for (int c = 0; c < C; ++c) in[c] = ld(p[c] + x);
+        u8* out = reinterpret_cast<u8*>(d + std::ptrdiff_t(x) * C);
+        for (int j = 0; j < C; ++j) {
+            __m128i o = _mm_shuffle_epi8(in[0], ld(sh.join[j][0]));
+            for (int c = 1; c < C; ++c) o = _mm_or_si128(o, _mm_shuffle_epi8(in[c], ld(sh.join[j][c])));
+            put16(out + 16 * j, o, nt);
+        }
+    }
+    for (; x < w; ++x)
+        for (int c = 0; c < C; ++c) d[std::ptrdiff_t(x) * C + c] = p[c][x];
+}
+
+// Non-temporal choice of the planar copies. Both images count. 32-bit samples
+// ask the cache above 0x100000 bytes; 8- and 16-bit rows ask it from 512
+// samples of interleaved row on.
+template <class T, int C>
+bool planar_nt(ZeliSize roi) {
+    const unsigned long long volume = 2ull * unsigned(roi.width) * unsigned(roi.height) * C * sizeof(T);
+    if (sizeof(T) == 4) return nontemporal(volume);
+    if (roi.width * (long long)C < 512) return false;
+    long long cache = 0;
+    return cache_size(cache) && volume >= (unsigned long long)cache;
+}
+
+// Row walk of the planar copies: contiguous rows fold into one.
+template <class T, int C, class Row>
+void planar_rows(int interStep, int planeStep, ZeliSize roi, Row&& rowFn) {
+    const long long interBytes = (long long)roi.width * C * sizeof(T), planeBytes = (long long)roi.width * sizeof(T);
+    if (interStep == interBytes && planeStep == planeBytes && interBytes * roi.height <= 0x7fffffff) {
+        rowFn(0, roi.width * roi.height);
+        return;
+    }
+    for (int r = 0; r < roi.height; ++r) rowFn(r, roi.width);
+}
+
+// ---- Managed copy ------------------------------------------------------------
+// Bytes up to an alignment boundary: steps of 1, 2 and 4, then 8 bytes.
+inline void copy_head(const u8*& s, u8*& d, std::size_t head) {
+    std::size_t done = 0;
+    if (head & 1) d[0] = s[0], done = 1;
+    if (head & 2) std::memcpy(d + done, s + done, 2), done += 2;
+    if (head & 4) std::memcpy(d + done, s + done, 4), done += 4;
+    for (; done < head; done += 8) std::memcpy(d + done, s + done, 8);
+    s += head, d += head;
+}
+
+// Ordinary loads; destination aligned to 64 bytes; stores streaming or not.
+inline void managed_row(const u8* s, u8* d, std::size_t n, bool nt) {
+    if (n < 64) return copy_ladder(s, d, n);
+    const std::size_t head = (64 - (reinterpret_cast<std::uintptr_t>(d) & 63)) & 63;
+    copy_head(s, d, head);
+    n -= head;
+    for (; n >= 64; s += 64, d += 64, n -= 64) {
+        const __m128i v0 = ld(s), v1 = ld(s + 16), v2 = ld(s + 32), v3 = ld(s + 48);
+        if (nt)
+            stn(d, v0), stn(d + 16, v1), stn(d + 32, v2), stn(d + 48, v3);
+        else
+            sta(d, v0), sta(d + 16, v1), sta(d + 32, v2), sta(d + 48, v3);
+    }
+    copy_ladder(s, d, n);
+}
+
+// Streaming loads; source aligned to 64 bytes. The destination can take
+// aligned (or streaming) stores only when it shares the source's alignment.
+inline void managed_row_stream(const u8* s, u8* d, std::size_t n, bool nt) {
+    if (n < 64) return copy_ladder(s, d, n);
+    const std::size_t head = (64 - (reinterpret_cast<std::uintptr_t>(s) & 63)) & 63;
+    copy_head(s, d, head);
+    n -= head;
+    const bool aligned = misalign16(d) == 0;
+    for (; n >= 64; s += 64, d += 64, n -= 64) {
+        __m128i* sp = reinterpret_cast<__m128i*>(const_cast<u8*>(s));
+        const __m128i v0 = _mm_stream_load_si128(sp), v1 = _mm_stream_load_si128(sp + 1);
+        const __m128i v2 = _mm_stream_load_si128(sp + 2), v3 = _mm_stream_load_si128(sp + 3);
+        if (aligned && nt)
+            stn(d, v0), stn(d + 16, v1), stn(d + 32, v2), stn(d + 48, v3);
+        else if (aligned)
+            sta(d, v0), sta(d + 16, v1), sta(d + 32, v2), sta(d + 48, v3);
+        else
+            stu(d, v0), stu(d + 16, v1), stu(d + 32, v2), stu(d + 48, v3);
+    }
+    copy_ladder(s, d, n);
+}
+
+} // namespace
+
+// ---- Entry points ------------------------------------------------------------
+
+// C1R, C3R, C4R: one byte copy of width times pixel size bytes a row.
+template <class T, Layout L>
+ZelStatus copy_whole(const T* s, int ss, T* d, int ds, ZeliSize roi) {
+    if (any_null(s, d)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    copy_bytes(reinterpret_cast<const u8*>(s), ss, reinterpret_cast<u8*>(d), ds,
+               std::size_t(roi.width) * channels(L) * sizeof(T), roi.height);
+    return zelStatusOk;
+}
+
+// N samples a pixel from a source pixel stride SP to a destination pixel
+// stride DP: AC4R (4,4,3), channel of interest (C,C,1), channel out (C,1,1),
+// channel in (1,C,1), AC4C3R (4,3,3), C3AC4R (3,4,3).
+template <class T, int SP, int DP, int N>
+ZelStatus copy_strided(const T* s, int ss, T* d, int ds, ZeliSize roi) {
+    if (any_null(s, d)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    for (int r = 0; r < roi.height; ++r) {
+        const T* sr = row(s, ss, r);
+        T* dr = row(d, ds, r);
+        for (int x = 0; x < roi.width; ++x)
+            for (int c = 0; c < N; ++c) dr[std::ptrdiff_t(x) * DP + c] = sr[std::ptrdiff_t(x) * SP + c];
+    }
+    return zelStatusOk;
+}
+
+template <class T, Layout L>
+ZelStatus copy_masked(const T* s, int ss, T* d, int ds, ZeliSize roi, const Zel8u* m, int ms) {
+    if (any_null(s, d, m)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    masked_rows<T, L, false>(s, ss, d, ds, roi, m, ms);
+    return zelStatusOk;
+}
+
+template <class T, int C>
+ZelStatus copy_to_planes(const T* s, int ss, T* const* p, int ps, ZeliSize roi) {
+    if (any_null(s, p)) return zelStatusNullPointer;
+    for (int c = 0; c < C; ++c)
+        if (!p[c]) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    const bool nt = planar_nt<T, C>(roi);
+    planar_rows<T, C>(ss, ps, roi, [&](int r, int w) {
+        T* pr[C];
+        for (int c = 0; c < C; ++c) pr[c] = row(p[c], ps, r);
+        split_row<T, C>(row(s, ss, r), pr, w, nt);
+    });
+    if (nt) _mm_sfence();
+    return zelStatusOk;
+}
+
+template <class T, int C>
+ZelStatus copy_from_planes(const T* const* p, int ps, T* d, int ds, ZeliSize roi) {
+    if (any_null(p, d)) return zelStatusNullPointer;
+    for (int c = 0; c < C; ++c)
+        if (!p[c]) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    const bool nt = planar_nt<T, C>(roi);
+    planar_rows<T, C>(ds, ps, roi, [&](int r, int w) {
+        const T* pr[C];
+        for (int c = 0; c < C; ++c) pr[c] = row(p[c], ps, r);
+        join_row<T, C>(pr, row(d, ds, r), w, nt);
+    });
+    if (nt) _mm_sfence();
+    return zelStatusOk;
+}
+
+// zeliSet on whole pixels through the pattern fill.
+template <class T>
+ZelStatus set_whole1(T value, T* d, int ds, ZeliSize roi) {
+    if (any_null(d)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    fill_bytes(&value, sizeof(T), reinterpret_cast<u8*>(d), ds, roi.width, roi.height);
+    return zelStatusOk;
+}
+
+template <class T, Layout L>
+ZelStatus set_whole(const T* v, T* d, int ds, ZeliSize roi) {
+    if (any_null(v, d)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    fill_bytes(v, sizeof(T) * channels(L), reinterpret_cast<u8*>(d), ds, roi.width, roi.height);
+    return zelStatusOk;
+}
+
+// N values into every pixel of stride DP: AC4R (4,3), channel of interest (C,1).
+template <class T, int DP, int N>
+ZelStatus set_strided(const T* v, T* d, int ds, ZeliSize roi) {
+    if (any_null(v, d)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    T px[N];
+    for (int c = 0; c < N; ++c) px[c] = v[c];
+    for (int r = 0; r < roi.height; ++r) {
+        T* dr = row(d, ds, r);
+        for (int x = 0; x < roi.width; ++x)
+            for (int c = 0; c < N; ++c) dr[std::ptrdiff_t(x) * DP + c] = px[c];
+    }
+    return zelStatusOk;
+}
+
+template <class T, int DP>
+ZelStatus set_strided1(T value, T* d, int ds, ZeliSize roi) {
+    return set_strided<T, DP, 1>(&value, d, ds, roi);
+}
+
+// Masked set: a block of 16 pixels of the value is the source of every block.
+template <class T, Layout L>
+ZelStatus set_masked(const T* v, T* d, int ds, ZeliSize roi, const Zel8u* m, int ms) {
+    if (any_null(v, d, m)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    constexpr int C = channels(L);
+    T block[16 * C];
+    for (int i = 0; i < 16 * C; ++i) block[i] = (i % C) < active(L) ? v[i % C] : T(0);
+    masked_rows<T, L, true>(block, 0, d, ds, roi, m, ms);
+    return zelStatusOk;
+}
+
+template <class T>
+ZelStatus set_masked1(T value, T* d, int ds, ZeliSize roi, const Zel8u* m, int ms) {
+    return set_masked<T, C1>(&value, d, ds, roi, m, ms);
+}
+
+// zeliDup: every source sample to all C channels of its destination pixel.
+template <int C>
+ZelStatus dup(const Zel8u* s, int ss, Zel8u* d, int ds, ZeliSize roi) {
+    if (any_null(s, d)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    for (int r = 0; r < roi.height; ++r) {
+        const Zel8u* sr = row(s, ss, r);
+        Zel8u* dr = row(d, ds, r);
+        for (int x = 0; x < roi.width; ++x)
+            for (int c = 0; c < C; ++c) dr[std::ptrdiff_t(x) * C + c] = sr[x];
+    }
+    return zelStatusOk;
+}
+
+// zeliCopyManaged: flags bit 0 streaming stores, bit 1 streaming loads.
+inline ZelStatus copy_managed(const Zel8u* s, int ss, Zel8u* d, int ds, ZeliSize roi, int flags) {
+    if (any_null(s, d)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    std::size_t n = std::size_t(roi.width);
+    int h = roi.height;
+    if (std::size_t(ss) == n && std::size_t(ds) == n && n * std::size_t(h) <= 0xffffffffu) {
+        n *= std::size_t(h);
+        h = 1;
+    }
+    const bool nt = (flags & 1) != 0;
+    if (flags & 2) {
+        for (int r = 0; r < h; ++r) managed_row_stream(row(s, ss, r), row(d, ds, r), n, nt);
+        _mm_mfence();
+    } else {
+        for (int r = 0; r < h; ++r) managed_row(row(s, ss, r), row(d, ds, r), n, nt);
+        _mm_sfence();
+    }
+    return zelStatusOk;
+}
+
+} // namespace zel
+
+#define ZEL_LIST "zelip8/fn_copy.h"
+#include "core/define_list.hpp"

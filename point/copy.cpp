@@ -54,70 +54,129 @@ void masked_rows(const T* s, int ss, T* d, int ds, ZeliSize roi, const u8* m, in
 }
 
 // ---- Planar and interleaved --------------------------------------------------
-// Byte shuffles between C interleaved vectors and C plane vectors of samples of
-// S bytes: 16 / S pixels a block. split[c][r] picks from interleaved vector r
-// the bytes of plane c; join[j][c] picks from plane c the bytes of interleaved
-// vector j. 0x80 marks a byte that comes from another vector.
-template <int S, int C>
-struct PlaneShuffle {
-    u8 split[C][C][16];
-    u8 join[C][C][16];
-    constexpr PlaneShuffle() : split{}, join{} {
-        for (int c = 0; c < C; ++c)
-            for (int r = 0; r < C; ++r)
-                for (int k = 0; k < 16; ++k) {
-                    const int pos = ((k / S) * C + c) * S + k % S;
-                    split[c][r][k] = u8(pos / 16 == r ? pos % 16 : 0x80);
-                }
-        for (int j = 0; j < C; ++j)
-            for (int c = 0; c < C; ++c)
-                for (int k = 0; k < 16; ++k) {
-                    const int q = j * 16 + k, pix = q / (C * S), rem = q % (C * S);
-                    join[j][c][k] = u8(rem / S == c ? pix * S + rem % S : 0x80);
-                }
+// A block is 16 / S pixels (S bytes a sample): C interleaved vectors against
+// one vector of each plane.
+//
+// Three channels: 16 is not a multiple of 3, so the bytes of one plane sit at
+// different lanes in the three interleaved vectors. Splitting blends the three
+// vectors so that each plane's bytes share one vector, then one byte shuffle
+// puts them in order. Joining shuffles each plane once so that every byte sits
+// at the lane it takes in its interleaved vector, then blends per vector.
+template <int S>
+struct Shuffle3 {
+    u8 pick[3][3][16]; // pick[c][r]: lane of vector r holds a byte of plane c
+    u8 order[3][16];   // order[c][k]: lane of the blended vector for byte k of plane c
+    u8 place[3][16];   // place[c][l]: byte of plane c that goes to lane l
+    u8 chan[3][3][16]; // chan[j][c]: lane of interleaved vector j takes channel c
+    constexpr Shuffle3() : pick{}, order{}, place{}, chan{} {
+        for (int q = 0; q < 48; ++q) { // byte q of the three interleaved vectors
+            const int pix = q / (3 * S), c = (q % (3 * S)) / S, k = pix * S + q % S;
+            pick[c][q / 16][q % 16] = 0x80;
+            order[c][k] = u8(q % 16);
+            place[c][q % 16] = u8(k);
+            chan[q / 16][c][q % 16] = 0x80;
+        }
     }
 };
-template <int S, int C>
-constexpr PlaneShuffle<S, C> kPlaneShuffle{};
+template <int S>
+constexpr Shuffle3<S> kShuffle3{};
 
-inline void put16(void* p, __m128i v, bool nt) {
-    if (nt && misalign16(p) == 0)
+// Four channels: each vector is first regrouped into four 32-bit groups, one a
+// channel; a 4x4 transpose of 32-bit words then makes the planes (and back).
+template <int S>
+struct Shuffle4 {
+    u8 group[16];   // interleaved lane -> grouped order
+    u8 ungroup[16]; // grouped order -> interleaved lane
+    constexpr Shuffle4() : group{}, ungroup{} {
+        for (int q = 0; q < 16; ++q) {
+            const int pix = q / (4 * S), c = (q % (4 * S)) / S, k = c * 4 + pix * S + q % S;
+            group[k] = u8(q);
+            ungroup[q] = u8(k);
+        }
+    }
+};
+template <int S>
+constexpr Shuffle4<S> kShuffle4{};
+
+inline void transpose4(__m128i& a0, __m128i& a1, __m128i& a2, __m128i& a3) {
+    const __m128i t0 = _mm_unpacklo_epi32(a0, a1), t1 = _mm_unpacklo_epi32(a2, a3);
+    const __m128i t2 = _mm_unpackhi_epi32(a0, a1), t3 = _mm_unpackhi_epi32(a2, a3);
+    a0 = _mm_unpacklo_epi64(t0, t1), a1 = _mm_unpackhi_epi64(t0, t1);
+    a2 = _mm_unpacklo_epi64(t2, t3), a3 = _mm_unpackhi_epi64(t2, t3);
+}
+
+// Streaming stores only where the address allows them.
+template <bool NT>
+inline void put16(void* p, __m128i v) {
+    if (NT && misalign16(p) == 0)
         stn(p, v);
     else
         stu(p, v);
 }
 
-template <class T, int C>
-void split_row(const T* s, T* const* p, int w, bool nt) {
+template <class T, int C, bool NT>
+void split_row(const T* s, T* const* planes, int w) {
     constexpr int S = sizeof(T), K = 16 / S;
-    const auto& sh = kPlaneShuffle<S, C>;
+    T* p[C];
+    for (int c = 0; c < C; ++c) p[c] = planes[c];
     int x = 0;
-    for (; x + K <= w; x += K) {
-        __m128i in[C];
-        for (int r = 0; r < C; ++r) in[r] = ld(reinterpret_cast<const u8*>(s + std::ptrdiff_t(x) * C) + 16 * r);
-        for (int c = 0; c < C; ++c) {
-            __m128i o = _mm_shuffle_epi8(in[0], ld(sh.split[c][0]));
-            for (int r = 1; r < C; ++r) o = _mm_or_si128(o, _mm_shuffle_epi8(in[r], ld(sh.split[c][r])));
-            put16(p[c] + x, o, nt);
+    if constexpr (C == 3) {
+        const auto& sh = kShuffle3<S>;
+        for (; x + K <= w; x += K) {
+            const u8* in = reinterpret_cast<const u8*>(s + std::ptrdiff_t(x) * 3);
+            const __m128i v0 = ld(in), v1 = ld(in + 16), v2 = ld(in + 32);
+            const __m128i t0 = _mm_blendv_epi8(_mm_blendv_epi8(v0, v1, ld(sh.pick[0][1])), v2, ld(sh.pick[0][2]));
+            const __m128i t1 = _mm_blendv_epi8(_mm_blendv_epi8(v0, v1, ld(sh.pick[1][1])), v2, ld(sh.pick[1][2]));
+            const __m128i t2 = _mm_blendv_epi8(_mm_blendv_epi8(v0, v1, ld(sh.pick[2][1])), v2, ld(sh.pick[2][2]));
+            put16<NT>(p[0] + x, _mm_shuffle_epi8(t0, ld(sh.order[0])));
+            put16<NT>(p[1] + x, _mm_shuffle_epi8(t1, ld(sh.order[1])));
+            put16<NT>(p[2] + x, _mm_shuffle_epi8(t2, ld(sh.order[2])));
+        }
+    } else {
+        const __m128i g = ld(kShuffle4<S>.group);
+        for (; x + K <= w; x += K) {
+            const u8* in = reinterpret_cast<const u8*>(s + std::ptrdiff_t(x) * 4);
+            __m128i a0 = ld(in), a1 = ld(in + 16), a2 = ld(in + 32), a3 = ld(in + 48);
+            if (S < 4) {
+                a0 = _mm_shuffle_epi8(a0, g), a1 = _mm_shuffle_epi8(a1, g);
+                a2 = _mm_shuffle_epi8(a2, g), a3 = _mm_shuffle_epi8(a3, g);
+            }
+            transpose4(a0, a1, a2, a3);
+            put16<NT>(p[0] + x, a0), put16<NT>(p[1] + x, a1), put16<NT>(p[2] + x, a2), put16<NT>(p[3] + x, a3);
         }
     }
     for (; x < w; ++x)
         for (int c = 0; c < C; ++c) p[c][x] = s[std::ptrdiff_t(x) * C + c];
 }
 
-template <class T, int C>
-void join_row(const T* const* p, T* d, int w, bool nt) {
+template <class T, int C, bool NT>
+void join_row(const T* const* planes, T* d, int w) {
     constexpr int S = sizeof(T), K = 16 / S;
-    const auto& sh = kPlaneShuffle<S, C>;
+    const T* p[C];
+    for (int c = 0; c < C; ++c) p[c] = planes[c];
     int x = 0;
-    for (; x + K <= w; x += K) {
-        __m128i in[C];
-        for (int c = 0; c < C; ++c) in[c] = ld(p[c] + x);
-        u8* out = reinterpret_cast<u8*>(d + std::ptrdiff_t(x) * C);
-        for (int j = 0; j < C; ++j) {
-            __m128i o = _mm_shuffle_epi8(in[0], ld(sh.join[j][0]));
-            for (int c = 1; c < C; ++c) o = _mm_or_si128(o, _mm_shuffle_epi8(in[c], ld(sh.join[j][c])));
-            put16(out + 16 * j, o, nt);
+    if constexpr (C == 3) {
+        const auto& sh = kShuffle3<S>;
+        for (; x + K <= w; x += K) {
+            const __m128i r0 = _mm_shuffle_epi8(ld(p[0] + x), ld(sh.place[0]));
+            const __m128i r1 = _mm_shuffle_epi8(ld(p[1] + x), ld(sh.place[1]));
+            const __m128i r2 = _mm_shuffle_epi8(ld(p[2] + x), ld(sh.place[2]));
+            u8* out = reinterpret_cast<u8*>(d + std::ptrdiff_t(x) * 3);
+            put16<NT>(out, _mm_blendv_epi8(_mm_blendv_epi8(r0, r1, ld(sh.chan[0][1])), r2, ld(sh.chan[0][2])));
+            put16<NT>(out + 16, _mm_blendv_epi8(_mm_blendv_epi8(r0, r1, ld(sh.chan[1][1])), r2, ld(sh.chan[1][2])));
+            put16<NT>(out + 32, _mm_blendv_epi8(_mm_blendv_epi8(r0, r1, ld(sh.chan[2][1])), r2, ld(sh.chan[2][2])));
+        }
+    } else {
+        const __m128i u = ld(kShuffle4<S>.ungroup);
+        for (; x + K <= w; x += K) {
+            __m128i a0 = ld(p[0] + x), a1 = ld(p[1] + x), a2 = ld(p[2] + x), a3 = ld(p[3] + x);
+            transpose4(a0, a1, a2, a3);
+            if (S < 4) {
+                a0 = _mm_shuffle_epi8(a0, u), a1 = _mm_shuffle_epi8(a1, u);
+                a2 = _mm_shuffle_epi8(a2, u), a3 = _mm_shuffle_epi8(a3, u);
+            }
+            u8* out = reinterpret_cast<u8*>(d + std::ptrdiff_t(x) * 4);
+            put16<NT>(out, a0), put16<NT>(out + 16, a1), put16<NT>(out + 32, a2), put16<NT>(out + 48, a3);
         }
     }
     for (; x < w; ++x)
@@ -244,7 +303,7 @@ ZelStatus copy_to_planes(const T* s, int ss, T* const* p, int ps, ZeliSize roi) 
     planar_rows<T, C>(ss, ps, roi, [&](int r, int w) {
         T* pr[C];
         for (int c = 0; c < C; ++c) pr[c] = row(p[c], ps, r);
-        split_row<T, C>(row(s, ss, r), pr, w, nt);
+        (nt ? split_row<T, C, true> : split_row<T, C, false>)(row(s, ss, r), pr, w);
     });
     if (nt) _mm_sfence();
     return zelStatusOk;
@@ -260,7 +319,7 @@ ZelStatus copy_from_planes(const T* const* p, int ps, T* d, int ds, ZeliSize roi
     planar_rows<T, C>(ds, ps, roi, [&](int r, int w) {
         const T* pr[C];
         for (int c = 0; c < C; ++c) pr[c] = row(p[c], ps, r);
-        join_row<T, C>(pr, row(d, ds, r), w, nt);
+        (nt ? join_row<T, C, true> : join_row<T, C, false>)(pr, row(d, ds, r), w);
     });
     if (nt) _mm_sfence();
     return zelStatusOk;

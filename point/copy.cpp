@@ -271,8 +271,9 @@ ZelStatus copy_whole(const T* s, int ss, T* d, int ds, ZeliSize roi) {
 
 // N samples a pixel from a source pixel stride SP to a destination pixel
 // stride DP: AC4R (4,4,3), channel of interest (C,C,1), channel out (C,1,1),
-// channel in (1,C,1), AC4C3R (4,3,3), C3AC4R (3,4,3).
-template <class T, int SP, int DP, int N>
+// channel in (1,C,1), AC4C3R (4,3,3), C3AC4R (3,4,3). With Spread the one
+// source sample of a pixel goes to all N destination samples (zeliDup).
+template <class T, int SP, int DP, int N, bool Spread = false>
 ZelStatus copy_strided(const T* s, int ss, T* d, int ds, ZeliSize roi) {
     if (any_null(s, d)) return zelStatusNullPointer;
     if (bad_size(roi)) return zelStatusBadSize;
@@ -280,7 +281,7 @@ ZelStatus copy_strided(const T* s, int ss, T* d, int ds, ZeliSize roi) {
         const T* sr = row(s, ss, r);
         T* dr = row(d, ds, r);
         for (int x = 0; x < roi.width; ++x)
-            for (int c = 0; c < N; ++c) dr[std::ptrdiff_t(x) * DP + c] = sr[std::ptrdiff_t(x) * SP + c];
+            for (int c = 0; c < N; ++c) dr[std::ptrdiff_t(x) * DP + c] = sr[std::ptrdiff_t(x) * SP + (Spread ? 0 : c)];
     }
     return zelStatusOk;
 }
@@ -377,20 +378,6 @@ ZelStatus set_masked(const T* v, T* d, int ds, ZeliSize roi, const Zel8u* m, int
 template <class T>
 ZelStatus set_masked1(T value, T* d, int ds, ZeliSize roi, const Zel8u* m, int ms) {
     return set_masked<T, C1>(&value, d, ds, roi, m, ms);
-}
-
-// zeliDup: every source sample to all C channels of its destination pixel.
-template <int C>
-ZelStatus dup(const Zel8u* s, int ss, Zel8u* d, int ds, ZeliSize roi) {
-    if (any_null(s, d)) return zelStatusNullPointer;
-    if (bad_size(roi)) return zelStatusBadSize;
-    for (int r = 0; r < roi.height; ++r) {
-        const Zel8u* sr = row(s, ss, r);
-        Zel8u* dr = row(d, ds, r);
-        for (int x = 0; x < roi.width; ++x)
-            for (int c = 0; c < C; ++c) dr[std::ptrdiff_t(x) * C + c] = sr[x];
-    }
-    return zelStatusOk;
 }
 
 // zeliCopyManaged: flags bit 0 streaming stores, bit 1 streaming loads.

@@ -20,6 +20,13 @@ inline void sta(void* p, __m128i v) { _mm_store_si128(static_cast<__m128i*>(p), 
 inline void stn(void* p, __m128i v) { _mm_stream_si128(static_cast<__m128i*>(p), v); }
 inline std::size_t misalign16(const void* p) { return reinterpret_cast<std::uintptr_t>(p) & 15; }
 
+// N bytes through a register; both pointers move on.
+template <int N>
+inline void move_bytes(const u8*& s, u8*& d) {
+    std::memcpy(d, s, N);
+    s += N, d += N;
+}
+
 // Rows below 64 bytes: blocks of 32, 16, 8, 4, 2 and 1 bytes by the bits of n.
 inline void copy_ladder(const u8* s, u8* d, std::size_t n) {
     if (n & 32) {
@@ -32,24 +39,9 @@ inline void copy_ladder(const u8* s, u8* d, std::size_t n) {
         stu(d, ld(s));
         s += 16, d += 16;
     }
-    if (n & 8) {
-        std::uint64_t v;
-        std::memcpy(&v, s, 8);
-        std::memcpy(d, &v, 8);
-        s += 8, d += 8;
-    }
-    if (n & 4) {
-        std::uint32_t v;
-        std::memcpy(&v, s, 4);
-        std::memcpy(d, &v, 4);
-        s += 4, d += 4;
-    }
-    if (n & 2) {
-        std::uint16_t v;
-        std::memcpy(&v, s, 2);
-        std::memcpy(d, &v, 2);
-        s += 2, d += 2;
-    }
+    if (n & 8) move_bytes<8>(s, d);
+    if (n & 4) move_bytes<4>(s, d);
+    if (n & 2) move_bytes<2>(s, d);
     if (n & 1) *d = *s;
 }
 

@@ -88,9 +88,9 @@ ZEL_SET_ALL(32s)
 #undef ZEL_SET_1
 
 ZEL_FN(ZelStatus, zeliDup_8u_C1C3R, (const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize),
-       (pSrc, srcStep, pDst, dstStep, roiSize), (zel::dup<3>))
+       (pSrc, srcStep, pDst, dstStep, roiSize), (zel::copy_strided<Zel8u, 1, 3, 3, true>))
 ZEL_FN(ZelStatus, zeliDup_8u_C1C4R, (const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize),
-       (pSrc, srcStep, pDst, dstStep, roiSize), (zel::dup<4>))
+       (pSrc, srcStep, pDst, dstStep, roiSize), (zel::copy_strided<Zel8u, 1, 4, 4, true>))
 ZEL_FN(ZelStatus, zeliCopyManaged_8u_C1R,
        (const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int flags),
        (pSrc, srcStep, pDst, dstStep, roiSize, flags), (zel::copy_managed))

@@ -147,6 +147,18 @@ struct Pattern {
     }
 };
 
+template <int P, bool NT>
+inline u8* fill_rounds(u8* d, std::size_t& n, __m128i r0, __m128i r1, __m128i r2) {
+    auto put = [](u8* p, __m128i v) { NT ? stn(p, v) : sta(p, v); };
+    constexpr std::size_t round = P == 16 ? 128 : 96;
+    for (; n >= round; d += round, n -= round) {
+        put(d, r0), put(d + 16, r1), put(d + 32, r2);
+        put(d + 48, r0), put(d + 64, r1), put(d + 80, r2);
+        if (P == 16) put(d + 96, r0), put(d + 112, r0);
+    }
+    return d;
+}
+
 template <int P>
 inline void fill_row_p(u8* d, std::size_t n, const u8* buf, bool nt) {
     if (n < 64) {
@@ -167,22 +179,14 @@ inline void fill_row_p(u8* d, std::size_t n, const u8* buf, bool nt) {
     u8* const last = d + n - 16;
     d += a, n -= a;
     const __m128i r0 = ld(buf + phase), r1 = ld(buf + (phase + 16) % P), r2 = ld(buf + (phase + 32) % P);
-    constexpr std::size_t round = P == 16 ? 64 : 48;
-    if (nt) {
-        for (; n >= round; d += round, n -= round) {
-            stn(d, r0), stn(d + 16, r1), stn(d + 32, r2);
-            if (P == 16) stn(d + 48, r0);
-        }
-    } else {
-        for (; n >= round; d += round, n -= round) {
-            sta(d, r0), sta(d + 16, r1), sta(d + 32, r2);
-            if (P == 16) sta(d + 48, r0);
-        }
-    }
-    // At most three vectors remain; they continue the same phase sequence.
-    if (n >= 16) sta(d, r0), d += 16, n -= 16;
-    if (n >= 16) sta(d, r1), d += 16, n -= 16;
-    if (n >= 16) sta(d, r2), d += 16, n -= 16;
+    // Eight vectors of a 16-byte pattern, or two periods of a 48-byte one, a round.
+    if (nt)
+        d = fill_rounds<P, true>(d, n, r0, r1, r2);
+    else
+        d = fill_rounds<P, false>(d, n, r0, r1, r2);
+    // The vectors left continue the same phase sequence.
+    const __m128i rest[8] = {r0, r1, r2, r0, r1, r2, r0, r1};
+    for (int k = 0; n >= 16; ++k, d += 16, n -= 16) sta(d, rest[k]);
     if (n) stu(last, ld(buf + end));
 }
 

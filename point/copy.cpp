@@ -122,15 +122,26 @@ void split_row(const T* s, T* const* planes, int w) {
     int x = 0;
     if constexpr (C == 3) {
         const auto& sh = kShuffle3<S>;
+        // One plane vector from the three interleaved vectors v0, v1, v2.
+        auto plane = [&](__m128i v0, __m128i v1, __m128i v2, int c) {
+            const __m128i t = _mm_blendv_epi8(_mm_blendv_epi8(v0, v1, ld(sh.pick[c][1])), v2, ld(sh.pick[c][2]));
+            return _mm_shuffle_epi8(t, ld(sh.order[c]));
+        };
+        // Two blocks a round: each plane receives 32 consecutive bytes.
+        for (; x + 2 * K <= w; x += 2 * K) {
+            const u8* in = reinterpret_cast<const u8*>(s + std::ptrdiff_t(x) * 3);
+            const __m128i a0 = ld(in), a1 = ld(in + 16), a2 = ld(in + 32);
+            const __m128i b0 = ld(in + 48), b1 = ld(in + 64), b2 = ld(in + 80);
+            put16<NT>(p[0] + x, plane(a0, a1, a2, 0)), put16<NT>(p[0] + x + K, plane(b0, b1, b2, 0));
+            put16<NT>(p[1] + x, plane(a0, a1, a2, 1)), put16<NT>(p[1] + x + K, plane(b0, b1, b2, 1));
+            put16<NT>(p[2] + x, plane(a0, a1, a2, 2)), put16<NT>(p[2] + x + K, plane(b0, b1, b2, 2));
+        }
         for (; x + K <= w; x += K) {
             const u8* in = reinterpret_cast<const u8*>(s + std::ptrdiff_t(x) * 3);
             const __m128i v0 = ld(in), v1 = ld(in + 16), v2 = ld(in + 32);
-            const __m128i t0 = _mm_blendv_epi8(_mm_blendv_epi8(v0, v1, ld(sh.pick[0][1])), v2, ld(sh.pick[0][2]));
-            const __m128i t1 = _mm_blendv_epi8(_mm_blendv_epi8(v0, v1, ld(sh.pick[1][1])), v2, ld(sh.pick[1][2]));
-            const __m128i t2 = _mm_blendv_epi8(_mm_blendv_epi8(v0, v1, ld(sh.pick[2][1])), v2, ld(sh.pick[2][2]));
-            put16<NT>(p[0] + x, _mm_shuffle_epi8(t0, ld(sh.order[0])));
-            put16<NT>(p[1] + x, _mm_shuffle_epi8(t1, ld(sh.order[1])));
-            put16<NT>(p[2] + x, _mm_shuffle_epi8(t2, ld(sh.order[2])));
+            put16<NT>(p[0] + x, plane(v0, v1, v2, 0));
+            put16<NT>(p[1] + x, plane(v0, v1, v2, 1));
+            put16<NT>(p[2] + x, plane(v0, v1, v2, 2));
         }
     } else {
         const __m128i g = ld(kShuffle4<S>.group);

@@ -150,11 +150,10 @@ struct Pattern {
 template <int P, bool NT>
 inline u8* fill_rounds(u8* d, std::size_t& n, __m128i r0, __m128i r1, __m128i r2) {
     auto put = [](u8* p, __m128i v) { NT ? stn(p, v) : sta(p, v); };
-    constexpr std::size_t round = P == 16 ? 128 : 96;
+    constexpr std::size_t round = P == 16 ? 64 : 48;
     for (; n >= round; d += round, n -= round) {
         put(d, r0), put(d + 16, r1), put(d + 32, r2);
-        put(d + 48, r0), put(d + 64, r1), put(d + 80, r2);
-        if (P == 16) put(d + 96, r0), put(d + 112, r0);
+        if (P == 16) put(d + 48, r0);
     }
     return d;
 }
@@ -179,13 +178,13 @@ inline void fill_row_p(u8* d, std::size_t n, const u8* buf, bool nt) {
     u8* const last = d + n - 16;
     d += a, n -= a;
     const __m128i r0 = ld(buf + phase), r1 = ld(buf + (phase + 16) % P), r2 = ld(buf + (phase + 32) % P);
-    // Eight vectors of a 16-byte pattern, or two periods of a 48-byte one, a round.
+    // 64 bytes of a 16-byte pattern, or one period of a 48-byte one, a round.
     if (nt)
         d = fill_rounds<P, true>(d, n, r0, r1, r2);
     else
         d = fill_rounds<P, false>(d, n, r0, r1, r2);
     // The vectors left continue the same phase sequence.
-    const __m128i rest[8] = {r0, r1, r2, r0, r1, r2, r0, r1};
+    const __m128i rest[3] = {r0, r1, r2};
     for (int k = 0; n >= 16; ++k, d += 16, n -= 16) sta(d, rest[k]);
     if (n) stu(last, ld(buf + end));
 }

@@ -305,36 +305,37 @@ ZelStatus copy_masked(const T* s, int ss, T* d, int ds, ZeliSize roi, const Zel8
     return zelStatusOk;
 }
 
-template <class T, int C>
-ZelStatus copy_to_planes(const T* s, int ss, T* const* p, int ps, ZeliSize roi) {
-    if (any_null(s, p)) return zelStatusNullPointer;
+// Both planar directions: the image, the plane array and every plane are
+// tested for null, then the size; contiguous rows fold; a fence follows
+// streaming stores. row(planeRows, imageRow, width, nt) moves one row.
+template <class T, int C, class P, class I, class Row>
+ZelStatus planar_copy(P* const* p, int ps, I* img, int is, ZeliSize roi, Row&& rowFn) {
+    if (any_null(img, p)) return zelStatusNullPointer;
     for (int c = 0; c < C; ++c)
         if (!p[c]) return zelStatusNullPointer;
     if (bad_size(roi)) return zelStatusBadSize;
     const bool nt = planar_nt<T, C>(roi);
-    planar_rows<T, C>(ss, ps, roi, [&](int r, int w) {
-        T* pr[C];
+    planar_rows<T, C>(is, ps, roi, [&](int r, int w) {
+        P* pr[C];
         for (int c = 0; c < C; ++c) pr[c] = row(p[c], ps, r);
-        (nt ? split_row<T, C, true> : split_row<T, C, false>)(row(s, ss, r), pr, w);
+        rowFn(pr, row(img, is, r), w, nt);
     });
     if (nt) _mm_sfence();
     return zelStatusOk;
 }
 
 template <class T, int C>
-ZelStatus copy_from_planes(const T* const* p, int ps, T* d, int ds, ZeliSize roi) {
-    if (any_null(p, d)) return zelStatusNullPointer;
-    for (int c = 0; c < C; ++c)
-        if (!p[c]) return zelStatusNullPointer;
-    if (bad_size(roi)) return zelStatusBadSize;
-    const bool nt = planar_nt<T, C>(roi);
-    planar_rows<T, C>(ds, ps, roi, [&](int r, int w) {
-        const T* pr[C];
-        for (int c = 0; c < C; ++c) pr[c] = row(p[c], ps, r);
-        (nt ? join_row<T, C, true> : join_row<T, C, false>)(pr, row(d, ds, r), w);
+ZelStatus copy_to_planes(const T* s, int ss, T* const* p, int ps, ZeliSize roi) {
+    return planar_copy<T, C>(p, ps, s, ss, roi, [](T* const* pr, const T* sr, int w, bool nt) {
+        (nt ? split_row<T, C, true> : split_row<T, C, false>)(sr, pr, w);
     });
-    if (nt) _mm_sfence();
-    return zelStatusOk;
+}
+
+template <class T, int C>
+ZelStatus copy_from_planes(const T* const* p, int ps, T* d, int ds, ZeliSize roi) {
+    return planar_copy<T, C>(p, ps, d, ds, roi, [](const T* const* pr, T* dr, int w, bool nt) {
+        (nt ? join_row<T, C, true> : join_row<T, C, false>)(pr, dr, w);
+    });
 }
 
 // zeliSet on whole pixels through the pattern fill.

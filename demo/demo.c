@@ -18,6 +18,20 @@ int main(void) {
 
     ZelStatus st = zelStatusOk;
 
+    /* Fill the source with one colour, copy it and read a pixel back. */
+    const Zel8u colour[3] = {200, 100, 50};
+    st = zeliSet_8u_C3R(colour, src, srcStep, roi);
+    if (st == zelStatusOk) st = zeliCopy_8u_C3R(src, srcStep, dst, dstStep, roi);
+    if (st == zelStatusOk) {
+        const Zel8u* px = dst + 240 * dstStep + 320 * 3;
+        printf("set + copy: status %d, pixel (320,240) = (%d, %d, %d)\n", st, px[0], px[1], px[2]);
+    }
+
+    /* A region of width 0 is refused with a status, and nothing is written. */
+    ZeliSize empty = {0, 480};
+    printf("copy with width 0: status %d (zelStatusBadSize is %d)\n",
+           zeliCopy_8u_C3R(src, srcStep, dst, dstStep, empty), zelStatusBadSize);
+
     zeliFree(src);
     zeliFree(dst);
     return st == zelStatusOk ? 0 : 1;

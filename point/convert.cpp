@@ -47,14 +47,14 @@ ZelStatus convert_rs(const S* src, int srcStep, D* dst, int dstStep, ZeliSize ro
 // Mode 1 converts to nearest, 0 towards zero, any other value is financial
 // (to nearest, ties away from zero). The rounding field is set for the rows
 // and the caller's word written back if it had to change.
-template <Layout L, class D>
+template <Layout L, bool Scaled, class D>
 void float_to_int(const Zel32f* src, int srcStep, D* dst, int dstStep, ZeliSize roi, int mode, float m) {
     const unsigned field = mode == 1 ? kRoundNearest : kRoundZero;
     const unsigned saved = zel_set_rc_ssx(field);
     if (mode == 0 || mode == 1)
-        run_image<L>(src, srcStep, dst, dstStep, roi, cvt::FloatToInt<D, false>(m), false);
+        run_image<L>(src, srcStep, dst, dstStep, roi, cvt::FloatToInt<D, false, Scaled>(m), false);
     else
-        run_image<L>(src, srcStep, dst, dstStep, roi, cvt::FloatToInt<D, true>(m), false);
+        run_image<L>(src, srcStep, dst, dstStep, roi, cvt::FloatToInt<D, true, Scaled>(m), false);
     if ((saved & kRoundField) != field) zel_set_cw_ssx(saved);
 }
 
@@ -63,7 +63,7 @@ ZelStatus convert_round(const Zel32f* src, int srcStep, D* dst, int dstStep, Zel
     if (any_null(src, dst)) return zelStatusNullPointer;
     if (bad_size(roi)) return zelStatusBadSize;
     if (any_bad_step(srcStep, dstStep)) return zelStatusBadStep;
-    float_to_int<L>(src, srcStep, dst, dstStep, roi, mode, 1.0f);
+    float_to_int<L, false>(src, srcStep, dst, dstStep, roi, mode, 1.0f);
     return zelStatusOk;
 }
 
@@ -102,7 +102,7 @@ ZelStatus convert_sfs(const S* src, int srcStep, D* dst, int dstStep, ZeliSize r
     if (any_null(src, dst)) return zelStatusNullPointer;
     if (bad_size(roi)) return zelStatusBadSize;
     if constexpr (std::is_floating_point<S>::value) {
-        float_to_int<C1>(src, srcStep, dst, dstStep, roi, mode, sfs_multiplier(scaleFactor));
+        float_to_int<C1, true>(src, srcStep, dst, dstStep, roi, mode, sfs_multiplier(scaleFactor));
     } else {
         for (int r = 0; r < roi.height; ++r) {
             const S* s = row(src, srcStep, r);

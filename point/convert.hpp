@@ -115,12 +115,25 @@ template <class St>
 inline void put16(Zel32f* d, __m128 a, __m128 b, __m128 c, __m128 e) { put16_wide<St>(d, a, b, c, e); }
 
 // ---- Row walkers ---------------------------------------------------------------
+// An operation may work on 16 samples in narrower lanes (kBlock16 and
+// block16), where the rule allows it bit for bit.
+template <class Op, class = void>
+struct HasBlock16 : std::false_type {};
+template <class Op>
+struct HasBlock16<Op, std::enable_if_t<Op::kBlock16>> : std::true_type {};
+
 template <class St, class S, class D, class Op>
 inline void blocks(const S* s, D* d, int& i, int n, const Op& op) {
-    for (; i + 16 <= n; i += 16)
-        put16<St>(d + i, op.vec(Load<S>::four(s + i)), op.vec(Load<S>::four(s + i + 4)),
-                  op.vec(Load<S>::four(s + i + 8)), op.vec(Load<S>::four(s + i + 12)));
+    if constexpr (HasBlock16<Op>::value) {
+        for (; i + 16 <= n; i += 16) op.template block16<St>(s + i, d + i);
+    } else {
+        for (; i + 16 <= n; i += 16)
+            put16<St>(d + i, op.vec(Load<S>::four(s + i)), op.vec(Load<S>::four(s + i + 4)),
+                      op.vec(Load<S>::four(s + i + 8)), op.vec(Load<S>::four(s + i + 12)));
+    }
 }
+
+inline __m128i load16(const void* p) { return _mm_loadu_si128(static_cast<const __m128i*>(p)); }
 
 // One row of n samples. `nt` selects non-temporal stores for the aligned middle.
 template <class S, class D, class Op>
@@ -188,6 +201,30 @@ struct Plain {
         else
             return sat<D>(x);
     }
+    // 16 samples at once: 8u widening from one load, 16-bit narrowing in
+    // 16-bit lanes.
+    static constexpr bool kFrom8u = std::is_same<S, Zel8u>::value;
+    static constexpr bool kBlock16 =
+        (kFrom8u && !std::is_same<D, Zel8s>::value) ||
+        (std::is_same<D, Zel8u>::value && (std::is_same<S, Zel16u>::value || std::is_same<S, Zel16s>::value));
+    template <class St>
+    void block16(const S* s, D* d) const {
+        if constexpr (kFrom8u) {
+            const __m128i v = load16(s);
+            if constexpr (sizeof(D) == 2) {
+                St::put(d, _mm_cvtepu8_epi16(v));
+                St::put(d + 8, _mm_unpackhi_epi8(v, _mm_setzero_si128()));
+            } else {
+                put16<St>(d, vec(_mm_cvtepu8_epi32(v)), vec(_mm_cvtepu8_epi32(_mm_srli_si128(v, 4))),
+                          vec(_mm_cvtepu8_epi32(_mm_srli_si128(v, 8))), vec(_mm_cvtepu8_epi32(_mm_srli_si128(v, 12))));
+            }
+        } else if constexpr (std::is_same<S, Zel16u>::value) {
+            const __m128i m = _mm_set1_epi16(255);
+            St::put(d, _mm_packus_epi16(_mm_min_epu16(load16(s), m), _mm_min_epu16(load16(s + 8), m)));
+        } else {
+            St::put(d, _mm_packus_epi16(load16(s), load16(s + 8)));
+        }
+    }
 };
 
 // Signed to unsigned ("Rs"): negative samples become 0.
@@ -204,17 +241,20 @@ struct NonNegative {
 // financial mode, the addition of 0.5 with the sign of the value and a
 // truncation. The addition runs with the rounding field set towards zero, so
 // the sum never rounds up across an integer.
-template <class D, bool Financial>
+// The lower clamp needs no instruction: every value below the lower bound,
+// and -inf, converts to a value at or below it (or to 0x80000000), which the
+// saturating pack takes to the bound.
+template <class D, bool Financial, bool Scaled>
 struct FloatToInt {
     static constexpr bool kVec = true;
     static constexpr bool kInt32 = std::is_same<D, Zel32s>::value;
-    __m128 m, hi, lo, half, sign, big;
+    __m128 m, hi, half, sign, big;
     explicit FloatToInt(float multiplier = 1.0f)
-        : m(_mm_set1_ps(multiplier)), hi(_mm_set1_ps(float(std::numeric_limits<D>::max()))),
-          lo(_mm_set1_ps(float(std::numeric_limits<D>::min()))), half(_mm_set1_ps(0.5f)),
+        : m(_mm_set1_ps(multiplier)), hi(_mm_set1_ps(float(std::numeric_limits<D>::max()))), half(_mm_set1_ps(0.5f)),
           sign(_mm_set1_ps(-0.0f)), big(_mm_set1_ps(2147483648.0f)) {}
     __m128i vec(__m128 x) const {
-        __m128 v = _mm_max_ps(_mm_min_ps(_mm_mul_ps(x, m), hi), lo);
+        if constexpr (Scaled) x = _mm_mul_ps(x, m);
+        __m128 v = _mm_min_ps(x, hi);
         __m128i r;
         if constexpr (Financial) {
             v = _mm_add_ps(v, _mm_or_ps(_mm_and_ps(v, sign), half));
@@ -227,7 +267,9 @@ struct FloatToInt {
         return r;
     }
     D one(Zel32f x) const {
-        __m128 v = _mm_max_ss(_mm_min_ss(_mm_mul_ss(_mm_set_ss(x), m), hi), lo);
+        __m128 v = _mm_set_ss(x);
+        if constexpr (Scaled) v = _mm_mul_ss(v, m);
+        v = _mm_min_ss(v, hi);
         int r;
         if constexpr (Financial) {
             v = _mm_add_ss(v, _mm_or_ps(_mm_and_ps(v, sign), half));
@@ -287,6 +329,17 @@ struct Scale16Fast {
     Zel8u one(S x) const {
         const int y = x + kOffset;
         return Zel8u(((y - (y >> 8)) >> 8) + 128);
+    }
+    // The same in 16-bit lanes: y - (y >> 8) stays within +-32640.
+    static constexpr bool kBlock16 = true;
+    template <class St>
+    void block16(const S* s, Zel8u* d) const {
+        const __m128i flip = _mm_set1_epi16(kOffset ? short(0x8000) : 0), c128 = _mm_set1_epi16(128);
+        auto f = [&](__m128i x) {
+            const __m128i y = _mm_xor_si128(x, flip);
+            return _mm_add_epi16(_mm_srai_epi16(_mm_sub_epi16(y, _mm_srai_epi16(y, 8)), 8), c128);
+        };
+        St::put(d, _mm_packus_epi16(f(load16(s)), f(load16(s + 8))));
     }
 };
 

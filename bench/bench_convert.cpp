@@ -1,0 +1,158 @@
+// Conversions, scaling and border copies at 1920x1080, beside OpenCV's
+// convertTo and copyMakeBorder.
+#include "common.hpp"
+
+#include <vector>
+
+#ifdef ZEL_HAVE_OPENCV
+#include <opencv2/core.hpp>
+#endif
+
+namespace {
+
+using zb::kH;
+using zb::kW;
+
+template <class T>
+std::vector<T> image(int channels, int seed) {
+    std::vector<T> v(std::size_t(kW) * kH * channels);
+    unsigned s = unsigned(seed) * 2654435761u;
+    for (auto& x : v) {
+        s = s * 1664525u + 1013904223u;
+        x = T((s >> 8) % 65536u) ;
+    }
+    return v;
+}
+
+// ---- 8u to 32f --------------------------------------------------------------------
+void BM_zel_Convert_8u32f_C1R(benchmark::State& st) {
+    zb::set_threads(int(st.range(0)));
+    auto src = image<Zel8u>(1, 1);
+    std::vector<Zel32f> dst(src.size());
+    for (auto _ : st) zeliConvert_8u32f_C1R(src.data(), kW, dst.data(), kW * 4, {kW, kH});
+    zb::bytes(st, 5.0 * kW * kH);
+}
+ZB_THREADS(BM_zel_Convert_8u32f_C1R);
+
+// ---- 32f to 8u, round to nearest ------------------------------------------------------
+void BM_zel_Convert_32f8u_C1R(benchmark::State& st) {
+    zb::set_threads(int(st.range(0)));
+    std::vector<Zel32f> src(std::size_t(kW) * kH);
+    for (std::size_t i = 0; i < src.size(); ++i) src[i] = float(i % 600) * 0.5f - 20.0f;
+    std::vector<Zel8u> dst(src.size());
+    for (auto _ : st) zeliConvert_32f8u_C1R(src.data(), kW * 4, dst.data(), kW, {kW, kH}, 1);
+    zb::bytes(st, 5.0 * kW * kH);
+}
+ZB_THREADS(BM_zel_Convert_32f8u_C1R);
+
+// ---- 16u to 8u, saturating ----------------------------------------------------------------
+void BM_zel_Convert_16u8u_C1R(benchmark::State& st) {
+    zb::set_threads(int(st.range(0)));
+    auto src = image<Zel16u>(1, 3);
+    std::vector<Zel8u> dst(src.size());
+    for (auto _ : st) zeliConvert_16u8u_C1R(src.data(), kW * 2, dst.data(), kW, {kW, kH});
+    zb::bytes(st, 3.0 * kW * kH);
+}
+ZB_THREADS(BM_zel_Convert_16u8u_C1R);
+
+// ---- zeliScale 16u to 8u, fast and accurate hints -------------------------------------------
+template <int Hint>
+void BM_zel_Scale_16u8u_C1R(benchmark::State& st) {
+    zb::set_threads(int(st.range(0)));
+    auto src = image<Zel16u>(1, 4);
+    std::vector<Zel8u> dst(src.size());
+    for (auto _ : st) zeliScale_16u8u_C1R(src.data(), kW * 2, dst.data(), kW, {kW, kH}, Hint);
+    zb::bytes(st, 3.0 * kW * kH);
+}
+BENCHMARK_TEMPLATE(BM_zel_Scale_16u8u_C1R, 1)->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK_TEMPLATE(BM_zel_Scale_16u8u_C1R, 2)->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+// ---- Borders, 16-pixel frames ---------------------------------------------------------------
+constexpr int kB = 16;
+
+void BM_zel_CopyReplicateBorder_8u_C3R(benchmark::State& st) {
+    zb::set_threads(int(st.range(0)));
+    auto src = image<Zel8u>(3, 5);
+    const int dw = kW + 2 * kB, dh = kH + 2 * kB;
+    std::vector<Zel8u> dst(std::size_t(dw) * dh * 3);
+    for (auto _ : st)
+        zeliCopyReplicateBorder_8u_C3R(src.data(), kW * 3, {kW, kH}, dst.data(), dw * 3, {dw, dh}, kB, kB);
+    zb::bytes(st, 3.0 * (double(kW) * kH + double(dw) * dh));
+}
+ZB_THREADS(BM_zel_CopyReplicateBorder_8u_C3R);
+
+void BM_zel_CopyConstBorder_8u_C1R(benchmark::State& st) {
+    zb::set_threads(int(st.range(0)));
+    auto src = image<Zel8u>(1, 6);
+    const int dw = kW + 2 * kB, dh = kH + 2 * kB;
+    std::vector<Zel8u> dst(std::size_t(dw) * dh);
+    for (auto _ : st)
+        zeliCopyConstBorder_8u_C1R(src.data(), kW, {kW, kH}, dst.data(), dw, {dw, dh}, kB, kB, 77);
+    zb::bytes(st, double(kW) * kH + double(dw) * dh);
+}
+ZB_THREADS(BM_zel_CopyConstBorder_8u_C1R);
+
+#ifdef ZEL_HAVE_OPENCV
+// ---- OpenCV's equivalents ---------------------------------------------------------------------
+void BM_cv_convertTo_8u32f(benchmark::State& st) {
+    zb::set_threads(int(st.range(0)));
+    auto v = image<Zel8u>(1, 1);
+    cv::Mat src(kH, kW, CV_8UC1, v.data()), dst(kH, kW, CV_32FC1);
+    for (auto _ : st) src.convertTo(dst, CV_32F);
+    zb::bytes(st, 5.0 * kW * kH);
+}
+ZB_THREADS(BM_cv_convertTo_8u32f);
+
+void BM_cv_convertTo_32f8u(benchmark::State& st) {
+    zb::set_threads(int(st.range(0)));
+    cv::Mat src(kH, kW, CV_32FC1), dst(kH, kW, CV_8UC1);
+    for (int i = 0; i < kW * kH; ++i) src.ptr<float>()[i] = float(i % 600) * 0.5f - 20.0f;
+    for (auto _ : st) src.convertTo(dst, CV_8U);
+    zb::bytes(st, 5.0 * kW * kH);
+}
+ZB_THREADS(BM_cv_convertTo_32f8u);
+
+void BM_cv_convertTo_16u8u(benchmark::State& st) {
+    zb::set_threads(int(st.range(0)));
+    auto v = image<Zel16u>(1, 3);
+    cv::Mat src(kH, kW, CV_16UC1, v.data()), dst(kH, kW, CV_8UC1);
+    for (auto _ : st) src.convertTo(dst, CV_8U);
+    zb::bytes(st, 3.0 * kW * kH);
+}
+ZB_THREADS(BM_cv_convertTo_16u8u);
+
+void BM_cv_convertTo_16u8u_scaled(benchmark::State& st) {
+    zb::set_threads(int(st.range(0)));
+    auto v = image<Zel16u>(1, 4);
+    cv::Mat src(kH, kW, CV_16UC1, v.data()), dst(kH, kW, CV_8UC1);
+    for (auto _ : st) src.convertTo(dst, CV_8U, 255.0 / 65535.0);
+    zb::bytes(st, 3.0 * kW * kH);
+}
+ZB_THREADS(BM_cv_convertTo_16u8u_scaled);
+
+void BM_cv_copyMakeBorder_replicate_8uC3(benchmark::State& st) {
+    zb::set_threads(int(st.range(0)));
+    auto v = image<Zel8u>(3, 5);
+    cv::Mat src(kH, kW, CV_8UC3, v.data()), dst;
+    const int dw = kW + 2 * kB, dh = kH + 2 * kB;
+    dst.create(dh, dw, CV_8UC3);
+    for (auto _ : st) cv::copyMakeBorder(src, dst, kB, kB, kB, kB, cv::BORDER_REPLICATE);
+    zb::bytes(st, 3.0 * (double(kW) * kH + double(dw) * dh));
+}
+ZB_THREADS(BM_cv_copyMakeBorder_replicate_8uC3);
+
+void BM_cv_copyMakeBorder_const_8uC1(benchmark::State& st) {
+    zb::set_threads(int(st.range(0)));
+    auto v = image<Zel8u>(1, 6);
+    cv::Mat src(kH, kW, CV_8UC1, v.data()), dst;
+    const int dw = kW + 2 * kB, dh = kH + 2 * kB;
+    dst.create(dh, dw, CV_8UC1);
+    for (auto _ : st) cv::copyMakeBorder(src, dst, kB, kB, kB, kB, cv::BORDER_CONSTANT, cv::Scalar(77));
+    zb::bytes(st, double(kW) * kH + double(dw) * dh);
+}
+ZB_THREADS(BM_cv_copyMakeBorder_const_8uC1);
+#endif
+
+} // namespace
+
+BENCHMARK_MAIN();

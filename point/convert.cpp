@@ -86,7 +86,7 @@ inline D int_sfs(long long v, int n, int mode) {
         return cvt::sat<D>(v * (1LL << sh));
     }
     if (n > 40) return D(0); // |v| < 2^32: the quotient is below one half
-    const long long q = v >> n, r = v - (q << n), half = 1LL << (n - 1);
+    const long long q = v >> n, r = v - q * (1LL << n), half = 1LL << (n - 1);
     long long res = q;
     if (mode == 0)
         res = (v < 0 && r != 0) ? q + 1 : q;

@@ -248,9 +248,12 @@ template <class D, bool Financial, bool Scaled>
 struct FloatToInt {
     static constexpr bool kVec = true;
     static constexpr bool kInt32 = std::is_same<D, Zel32s>::value;
+    // The bound as a float, fixed at compile time: the rounding field may
+    // already be set towards zero when the object is built.
+    static constexpr float kHi = float(std::numeric_limits<D>::max());
     __m128 m, hi, half, sign, big;
     explicit FloatToInt(float multiplier = 1.0f)
-        : m(_mm_set1_ps(multiplier)), hi(_mm_set1_ps(float(std::numeric_limits<D>::max()))), half(_mm_set1_ps(0.5f)),
+        : m(_mm_set1_ps(multiplier)), hi(_mm_set1_ps(kHi)), half(_mm_set1_ps(0.5f)),
           sign(_mm_set1_ps(-0.0f)), big(_mm_set1_ps(2147483648.0f)) {}
     __m128i vec(__m128 x) const {
         if constexpr (Scaled) x = _mm_mul_ps(x, m);

@@ -24,6 +24,13 @@ std::vector<T> image(int channels, int seed) {
     return v;
 }
 
+// Floats across the 8u range and beyond it, with halves.
+std::vector<Zel32f> ramp() {
+    std::vector<Zel32f> v(std::size_t(kW) * kH);
+    for (std::size_t i = 0; i < v.size(); ++i) v[i] = float(i % 600) * 0.5f - 20.0f;
+    return v;
+}
+
 // ---- 8u to 32f --------------------------------------------------------------------
 void BM_zel_Convert_8u32f_C1R(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -37,8 +44,7 @@ ZB_THREADS(BM_zel_Convert_8u32f_C1R);
 // ---- 32f to 8u, round to nearest ------------------------------------------------------
 void BM_zel_Convert_32f8u_C1R(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
-    std::vector<Zel32f> src(std::size_t(kW) * kH);
-    for (std::size_t i = 0; i < src.size(); ++i) src[i] = float(i % 600) * 0.5f - 20.0f;
+    const auto src = ramp();
     std::vector<Zel8u> dst(src.size());
     for (auto _ : st) zeliConvert_32f8u_C1R(src.data(), kW * 4, dst.data(), kW, {kW, kH}, 1);
     zb::bytes(st, 5.0 * kW * kH);
@@ -94,62 +100,36 @@ ZB_THREADS(BM_zel_CopyConstBorder_8u_C1R);
 
 #ifdef ZEL_HAVE_OPENCV
 // ---- OpenCV's equivalents ---------------------------------------------------------------------
-void BM_cv_convertTo_8u32f(benchmark::State& st) {
+// src.convertTo(dst, dstType, scale) on the same data as ours.
+template <class S>
+void cv_convert(benchmark::State& st, int srcType, int dstType, double scale, const std::vector<S>& v, double bytes) {
     zb::set_threads(int(st.range(0)));
-    auto v = image<Zel8u>(1, 1);
-    cv::Mat src(kH, kW, CV_8UC1, v.data()), dst(kH, kW, CV_32FC1);
-    for (auto _ : st) src.convertTo(dst, CV_32F);
-    zb::bytes(st, 5.0 * kW * kH);
+    cv::Mat src(kH, kW, srcType, const_cast<S*>(v.data())), dst(kH, kW, dstType);
+    for (auto _ : st) src.convertTo(dst, dstType, scale);
+    zb::bytes(st, bytes);
 }
+void BM_cv_convertTo_8u32f(benchmark::State& st) { cv_convert(st, CV_8UC1, CV_32FC1, 1.0, image<Zel8u>(1, 1), 5.0 * kW * kH); }
 ZB_THREADS(BM_cv_convertTo_8u32f);
-
-void BM_cv_convertTo_32f8u(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    cv::Mat src(kH, kW, CV_32FC1), dst(kH, kW, CV_8UC1);
-    for (int i = 0; i < kW * kH; ++i) src.ptr<float>()[i] = float(i % 600) * 0.5f - 20.0f;
-    for (auto _ : st) src.convertTo(dst, CV_8U);
-    zb::bytes(st, 5.0 * kW * kH);
-}
+void BM_cv_convertTo_32f8u(benchmark::State& st) { cv_convert(st, CV_32FC1, CV_8UC1, 1.0, ramp(), 5.0 * kW * kH); }
 ZB_THREADS(BM_cv_convertTo_32f8u);
-
-void BM_cv_convertTo_16u8u(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    auto v = image<Zel16u>(1, 3);
-    cv::Mat src(kH, kW, CV_16UC1, v.data()), dst(kH, kW, CV_8UC1);
-    for (auto _ : st) src.convertTo(dst, CV_8U);
-    zb::bytes(st, 3.0 * kW * kH);
-}
+void BM_cv_convertTo_16u8u(benchmark::State& st) { cv_convert(st, CV_16UC1, CV_8UC1, 1.0, image<Zel16u>(1, 3), 3.0 * kW * kH); }
 ZB_THREADS(BM_cv_convertTo_16u8u);
-
 void BM_cv_convertTo_16u8u_scaled(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    auto v = image<Zel16u>(1, 4);
-    cv::Mat src(kH, kW, CV_16UC1, v.data()), dst(kH, kW, CV_8UC1);
-    for (auto _ : st) src.convertTo(dst, CV_8U, 255.0 / 65535.0);
-    zb::bytes(st, 3.0 * kW * kH);
+    cv_convert(st, CV_16UC1, CV_8UC1, 255.0 / 65535.0, image<Zel16u>(1, 4), 3.0 * kW * kH);
 }
 ZB_THREADS(BM_cv_convertTo_16u8u_scaled);
 
-void BM_cv_copyMakeBorder_replicate_8uC3(benchmark::State& st) {
+// copyMakeBorder with 16-pixel frames on all sides.
+void cv_border(benchmark::State& st, int type, int channels, int border, int seed) {
     zb::set_threads(int(st.range(0)));
-    auto v = image<Zel8u>(3, 5);
-    cv::Mat src(kH, kW, CV_8UC3, v.data()), dst;
-    const int dw = kW + 2 * kB, dh = kH + 2 * kB;
-    dst.create(dh, dw, CV_8UC3);
-    for (auto _ : st) cv::copyMakeBorder(src, dst, kB, kB, kB, kB, cv::BORDER_REPLICATE);
-    zb::bytes(st, 3.0 * (double(kW) * kH + double(dw) * dh));
+    auto v = image<Zel8u>(channels, seed);
+    cv::Mat src(kH, kW, type, v.data()), dst(kH + 2 * kB, kW + 2 * kB, type);
+    for (auto _ : st) cv::copyMakeBorder(src, dst, kB, kB, kB, kB, border, cv::Scalar::all(77));
+    zb::bytes(st, channels * (double(kW) * kH + double(kW + 2 * kB) * (kH + 2 * kB)));
 }
+void BM_cv_copyMakeBorder_replicate_8uC3(benchmark::State& st) { cv_border(st, CV_8UC3, 3, cv::BORDER_REPLICATE, 5); }
 ZB_THREADS(BM_cv_copyMakeBorder_replicate_8uC3);
-
-void BM_cv_copyMakeBorder_const_8uC1(benchmark::State& st) {
-    zb::set_threads(int(st.range(0)));
-    auto v = image<Zel8u>(1, 6);
-    cv::Mat src(kH, kW, CV_8UC1, v.data()), dst;
-    const int dw = kW + 2 * kB, dh = kH + 2 * kB;
-    dst.create(dh, dw, CV_8UC1);
-    for (auto _ : st) cv::copyMakeBorder(src, dst, kB, kB, kB, kB, cv::BORDER_CONSTANT, cv::Scalar(77));
-    zb::bytes(st, double(kW) * kH + double(dw) * dh);
-}
+void BM_cv_copyMakeBorder_const_8uC1(benchmark::State& st) { cv_border(st, CV_8UC1, 1, cv::BORDER_CONSTANT, 6); }
 ZB_THREADS(BM_cv_copyMakeBorder_const_8uC1);
 #endif
 

@@ -32,43 +32,25 @@ inline D sat(long long v) {
 }
 
 // ---- Four samples into lanes -------------------------------------------------
+// Integers widen to 32-bit lanes by their signedness; floats stay floats.
 template <class S>
-struct Load;
-template <>
-struct Load<Zel8u> {
-    static __m128i four(const Zel8u* p) {
-        int v;
-        std::memcpy(&v, p, 4);
-        return _mm_cvtepu8_epi32(_mm_cvtsi32_si128(v));
+struct Load {
+    static auto four(const S* p) {
+        constexpr bool sgn = std::is_signed<S>::value;
+        if constexpr (std::is_floating_point<S>::value) {
+            return _mm_loadu_ps(p);
+        } else if constexpr (sizeof(S) == 4) {
+            return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+        } else if constexpr (sizeof(S) == 2) {
+            const __m128i v = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+            return sgn ? _mm_cvtepi16_epi32(v) : _mm_cvtepu16_epi32(v);
+        } else {
+            int bits;
+            std::memcpy(&bits, p, 4);
+            const __m128i v = _mm_cvtsi32_si128(bits);
+            return sgn ? _mm_cvtepi8_epi32(v) : _mm_cvtepu8_epi32(v);
+        }
     }
-};
-template <>
-struct Load<Zel8s> {
-    static __m128i four(const Zel8s* p) {
-        int v;
-        std::memcpy(&v, p, 4);
-        return _mm_cvtepi8_epi32(_mm_cvtsi32_si128(v));
-    }
-};
-template <>
-struct Load<Zel16u> {
-    static __m128i four(const Zel16u* p) { return _mm_cvtepu16_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))); }
-};
-template <>
-struct Load<Zel16s> {
-    static __m128i four(const Zel16s* p) { return _mm_cvtepi16_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))); }
-};
-template <>
-struct Load<Zel32s> {
-    static __m128i four(const Zel32s* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
-};
-template <>
-struct Load<Zel32u> {
-    static __m128i four(const Zel32u* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
-};
-template <>
-struct Load<Zel32f> {
-    static __m128 four(const Zel32f* p) { return _mm_loadu_ps(p); }
 };
 
 // ---- Stores of one aligned 16-byte vector -------------------------------------
@@ -269,21 +251,8 @@ struct FloatToInt {
         if constexpr (kInt32) r = _mm_blendv_epi8(r, _mm_set1_epi32(INT_MAX), _mm_castps_si128(_mm_cmpge_ps(v, big)));
         return r;
     }
-    D one(Zel32f x) const {
-        __m128 v = _mm_set_ss(x);
-        if constexpr (Scaled) v = _mm_mul_ss(v, m);
-        v = _mm_min_ss(v, hi);
-        int r;
-        if constexpr (Financial) {
-            v = _mm_add_ss(v, _mm_or_ps(_mm_and_ps(v, sign), half));
-            r = _mm_cvttss_si32(v);
-        } else {
-            r = _mm_cvtss_si32(v);
-        }
-        if constexpr (kInt32)
-            if (_mm_cvtss_f32(v) >= 2147483648.0f) r = INT_MAX;
-        return sat<D>(r);
-    }
+    // A single sample goes through the vector form in lane 0.
+    D one(Zel32f x) const { return sat<D>(_mm_cvtsi128_si32(vec(_mm_set_ss(x)))); }
 };
 
 // ---- Scaling to wider integers: the bytes are replicated ------------------------

@@ -80,6 +80,7 @@ void sweep(const std::string& name, int ch, bool ac4, Call call, Ref ref, double
         for (int h : {1, 3})
             for (const Shape& sh : kShapes) {
                 if (brief && (h == 1 || sh.flush == zt::Flush::Tail)) continue;
+                if (h == 1 && sh.extraSrc != 0) continue; // padding matters from the second row on
                 zt::Image<S> src(w, h, ch, sh.extraSrc * int(sizeof(S)));
                 zt::Image<D> dst(w, h, ch, sh.extraDst * int(sizeof(D)), sh.flush, sh.offset * sizeof(D));
                 fill(src, ++seed, range);

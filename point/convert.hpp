@@ -109,9 +109,15 @@ inline void blocks(const S* s, D* d, int& i, int n, const Op& op) {
     if constexpr (HasBlock16<Op>::value) {
         for (; i + 16 <= n; i += 16) op.template block16<St>(s + i, d + i);
     } else {
-        for (; i + 16 <= n; i += 16)
-            put16<St>(d + i, op.vec(Load<S>::four(s + i)), op.vec(Load<S>::four(s + i + 4)),
-                      op.vec(Load<S>::four(s + i + 8)), op.vec(Load<S>::four(s + i + 12)));
+        auto block = [&](int k) {
+            put16<St>(d + k, op.vec(Load<S>::four(s + k)), op.vec(Load<S>::four(s + k + 4)),
+                      op.vec(Load<S>::four(s + k + 8)), op.vec(Load<S>::four(s + k + 12)));
+        };
+        for (; i + 32 <= n; i += 32) {
+            block(i);
+            block(i + 16);
+        }
+        for (; i + 16 <= n; i += 16) block(i);
     }
 }
 
@@ -197,8 +203,10 @@ struct Plain {
                 St::put(d, _mm_cvtepu8_epi16(v));
                 St::put(d + 8, _mm_unpackhi_epi8(v, _mm_setzero_si128()));
             } else {
-                put16<St>(d, vec(_mm_cvtepu8_epi32(v)), vec(_mm_cvtepu8_epi32(_mm_srli_si128(v, 4))),
-                          vec(_mm_cvtepu8_epi32(_mm_srli_si128(v, 8))), vec(_mm_cvtepu8_epi32(_mm_srli_si128(v, 12))));
+                const __m128i z = _mm_setzero_si128();
+                const __m128i lo = _mm_unpacklo_epi8(v, z), hi = _mm_unpackhi_epi8(v, z);
+                put16<St>(d, vec(_mm_unpacklo_epi16(lo, z)), vec(_mm_unpackhi_epi16(lo, z)), vec(_mm_unpacklo_epi16(hi, z)),
+                          vec(_mm_unpackhi_epi16(hi, z)));
             }
         } else if constexpr (std::is_same<S, Zel16u>::value) {
             const __m128i m = _mm_set1_epi16(255);

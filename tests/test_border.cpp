@@ -47,7 +47,6 @@ std::vector<std::uint8_t> expected(Kind kind, const Geometry& g, int ch, bool ac
     return e;
 }
 
-using Fn = ZelStatus (*)(...);
 
 // Non-in-place form: fn(src, srcStep, srcSize, dst, dstStep, dstSize, top, left[, value]).
 template <class T, class Call>
@@ -77,23 +76,24 @@ template <class T, class Call>
 void check_in_place(const std::string& name, Kind kind, int ch, bool ac4, Call call) {
     std::uint32_t seed = 99;
     for (const Geometry& g : kGeometries)
-        for (int extra : {0, 3}) {
-            zt::Image<T> img(g.dw, g.dh, ch, extra * int(sizeof(T)), zt::Flush::Head, extra * sizeof(T));
-            img.fill_random(++seed);
-            const auto old = img.bytes();
-            T* srcDst = &img.at(g.left, g.top);
-            ASSERT_EQ(call(srcDst, img.step(), ZeliSize{g.sw, g.sh}, img.size(), g.top, g.left), 0) << name;
-            auto e = expected<T>(kind, g, ch, ac4, img.step(), old,
-                                 [&](int x, int y, int c) {
-                                     T v;
-                                     std::memcpy(&v, old.data() + std::size_t(y + g.top) * img.step() +
-                                                         (std::size_t(x + g.left) * ch + c) * sizeof(T), sizeof(T));
-                                     return v;
-                                 },
-                                 static_cast<const T*>(nullptr), true);
-            ASSERT_TRUE(img.bytes() == e) << name << " in place " << g.sw << "x" << g.sh << " in " << g.dw << "x" << g.dh
-                                          << " at " << g.left << "," << g.top;
-        }
+        for (int extra : {0, 3})
+            for (zt::Flush flush : {zt::Flush::Head, zt::Flush::Tail}) {
+                zt::Image<T> img(g.dw, g.dh, ch, extra * int(sizeof(T)), flush, extra * sizeof(T));
+                img.fill_random(++seed);
+                const auto old = img.bytes();
+                T* srcDst = &img.at(g.left, g.top);
+                ASSERT_EQ(call(srcDst, img.step(), ZeliSize{g.sw, g.sh}, img.size(), g.top, g.left), 0) << name;
+                auto e = expected<T>(kind, g, ch, ac4, img.step(), old,
+                                     [&](int x, int y, int c) {
+                                         T v;
+                                         std::memcpy(&v, old.data() + std::size_t(y + g.top) * img.step() +
+                                                             (std::size_t(x + g.left) * ch + c) * sizeof(T), sizeof(T));
+                                         return v;
+                                     },
+                                     static_cast<const T*>(nullptr), true);
+                ASSERT_TRUE(img.bytes() == e) << name << " in place " << g.sw << "x" << g.sh << " in " << g.dw << "x" << g.dh
+                                              << " at " << g.left << "," << g.top;
+            }
 }
 
 #define LAYOUTS(M, T) M(T, C1, 1, false) M(T, C3, 3, false) M(T, C4, 4, false) M(T, AC4, 4, true)

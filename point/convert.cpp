@@ -76,18 +76,21 @@ inline float sfs_multiplier(int n) {
     return m;
 }
 
-// Integer scaling: x * 2^-n, exact in 64 bits. n > 0 divides with rounding by
-// mode (0 truncate, 1 nearest with ties to even, other ties away from zero);
-// n <= 0 shifts left and saturates.
-template <class D>
-inline D int_sfs(long long v, int n, int mode) {
+// Integer scaling: x * 2^-n, exact in W (int for 8- and 16-bit sources,
+// 64 bits for 32-bit ones). n > 0 divides with rounding by mode (0 truncate,
+// 1 nearest with ties to even, other ties away from zero); n <= 0 shifts left
+// and saturates.
+template <class D, class W>
+inline D int_sfs(W v, int n, int mode) {
+    constexpr int kBits = sizeof(W) == 4 ? 16 : 32; // magnitude bits of the source at most
     if (n <= 0) {
-        const int sh = -n > 31 ? 31 : -n; // any non-zero sample saturates from 31 on
-        return cvt::sat<D>(v * (1LL << sh));
+        // From kBits - 1 on every non-zero sample saturates every destination.
+        const int sh = -n > kBits - 1 ? kBits - 1 : -n;
+        return cvt::sat<D>(v * (W(1) << sh));
     }
-    if (n > 40) return D(0); // |v| < 2^32: the quotient is below one half
-    const long long q = v >> n, r = v - q * (1LL << n), half = 1LL << (n - 1);
-    long long res = q;
+    if (n > kBits + 1) return D(0); // the quotient is below one half
+    const W q = v >> n, r = v - q * (W(1) << n), half = W(1) << (n - 1);
+    W res = q;
     if (mode == 0)
         res = (v < 0 && r != 0) ? q + 1 : q;
     else if (mode == 1)
@@ -107,7 +110,8 @@ ZelStatus convert_sfs(const S* src, int srcStep, D* dst, int dstStep, ZeliSize r
         for (int r = 0; r < roi.height; ++r) {
             const S* s = row(src, srcStep, r);
             D* d = row(dst, dstStep, r);
-            for (int x = 0; x < roi.width; ++x) d[x] = int_sfs<D>(s[x], scaleFactor, mode);
+            using W = typename std::conditional<(sizeof(S) < 4), int, long long>::type;
+            for (int x = 0; x < roi.width; ++x) d[x] = int_sfs<D, W>(W(s[x]), scaleFactor, mode);
         }
     }
     return zelStatusOk;

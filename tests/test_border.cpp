@@ -134,6 +134,21 @@ TEST(Border, OneToOneCallOnOneBufferGoesInPlace) {
         }
 }
 
+TEST(Border, Ac4ConstantReadsThreeValues) {
+    zt::Image<Zel32f> value(3, 1, 1); // a fourth entry would be on the guard page
+    value.at(0, 0) = 1.0f;
+    value.at(1, 0) = 2.0f;
+    value.at(2, 0) = 3.0f;
+    zt::Image<Zel32f> src(2, 2, 4), dst(4, 3, 4);
+    src.fill_random(1);
+    dst.fill_random(2);
+    const Zel32f alpha = dst.at(0, 0, 3);
+    ASSERT_EQ(zeliCopyConstBorder_32f_AC4R(src.ptr(), src.step(), src.size(), dst.ptr(), dst.step(), dst.size(), 1, 1,
+                                           value.ptr()), 0);
+    EXPECT_EQ(dst.at(0, 0, 2), 3.0f);
+    EXPECT_EQ(std::memcmp(&dst.at(0, 0, 3), &alpha, 4), 0);
+}
+
 TEST(Border, OrderOfChecks) {
     Zel8u s[16] = {}, d[64] = {};
     const Zel8u v[3] = {};

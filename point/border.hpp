@@ -25,7 +25,7 @@ inline void copy_px(const T* s, T* d, int n) {
 }
 
 // Writes the pixel `px` (active samples) n times from d on; px may lie in the
-// same row but not inside the run. The run doubles itself by copies.
+// same row but not inside the run.
 template <class T, Layout L>
 inline void fill_px(T* d, const T* px, int n) {
     if (n <= 0) return;
@@ -39,10 +39,14 @@ inline void fill_px(T* d, const T* px, int n) {
     } else if constexpr (sizeof(T) == 1 && L == C1) {
         std::memset(d, *px, std::size_t(n));
     } else {
+        // Up to 16 pixels by plain stores (short frames end here), then the
+        // written run doubles itself by copies.
         constexpr int ch = channels(L);
-        for (int c = 0; c < ch; ++c) d[c] = px[c];
+        const int first = n < 16 ? n : 16;
+        for (int p = 0; p < first; ++p)
+            for (int c = 0; c < ch; ++c) d[p * ch + c] = px[c];
         const std::size_t total = std::size_t(n) * ch;
-        std::size_t done = ch;
+        std::size_t done = std::size_t(first) * ch;
         while (done < total) {
             const std::size_t k = done < total - done ? done : total - done;
             std::memcpy(d + done, d, k * sizeof(T));

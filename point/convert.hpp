@@ -294,6 +294,17 @@ struct Scale16Accurate {
         return _mm_cvtps_epi32(_mm_mul_ps(_mm_cvtepi32_ps(_mm_add_epi32(v, _mm_set1_epi32(kOffset))), c));
     }
     Zel8u one(S x) const { return sat<Zel8u>(_mm_cvtss_si32(_mm_mul_ss(_mm_set_ss(float(x + kOffset)), c))); }
+    // 16 samples from two loads: x + 32768 of a 16s sample is its bit
+    // pattern with the top bit flipped, read as unsigned.
+    static constexpr bool kBlock16 = true;
+    template <class St>
+    void block16(const S* s, Zel8u* d) const {
+        const __m128i flip = _mm_set1_epi16(kOffset ? short(0x8000) : 0), z = _mm_setzero_si128();
+        const __m128i a = _mm_xor_si128(load16(s), flip), b = _mm_xor_si128(load16(s + 8), flip);
+        auto f = [&](__m128i u) { return _mm_cvtps_epi32(_mm_mul_ps(_mm_cvtepi32_ps(u), c)); };
+        put16<St>(d, f(_mm_unpacklo_epi16(a, z)), f(_mm_unpackhi_epi16(a, z)), f(_mm_unpacklo_epi16(b, z)),
+                  f(_mm_unpackhi_epi16(b, z)));
+    }
 };
 
 // Fast: integer arithmetic, y the sample as a signed 16-bit value:

@@ -14,14 +14,8 @@ using zb::kH;
 using zb::kW;
 
 template <class T>
-std::vector<T> image(int channels, int seed) {
-    std::vector<T> v(std::size_t(kW) * kH * channels);
-    unsigned s = unsigned(seed) * 2654435761u;
-    for (auto& x : v) {
-        s = s * 1664525u + 1013904223u;
-        x = T((s >> 8) % 65536u) ;
-    }
-    return v;
+std::vector<T> image(int channels, unsigned seed) {
+    return zb::random_image<T>(channels, seed, 0, sizeof(T) == 1 ? 255 : 65535);
 }
 
 // Floats across the 8u range and beyond it, with halves.

@@ -15,11 +15,7 @@ using zb::kW;
 
 template <class T>
 std::vector<T> image(unsigned seed, int lo, int hi) {
-    std::vector<T> v(std::size_t(kW) * kH);
-    std::mt19937 rng(seed);
-    std::uniform_int_distribution<int> d(lo, hi);
-    for (auto& x : v) x = T(d(rng));
-    return v;
+    return zb::random_image<T>(1, seed, lo, hi);
 }
 
 const ZeliSize kRoi{kW, kH};

@@ -12,10 +12,7 @@ namespace {
 
 template <class T>
 std::vector<T> image(int channels, unsigned seed) {
-    std::vector<T> v(std::size_t(zb::kW) * zb::kH * channels);
-    std::mt19937 rng(seed);
-    for (T& x : v) x = T(rng() % 251) / T(std::is_floating_point<T>::value ? 7 : 1);
-    return v;
+    return zb::random_image<T>(channels, seed, 0, 250);
 }
 
 const ZeliSize kRoi{zb::kW, zb::kH};

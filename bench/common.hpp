@@ -4,6 +4,9 @@
 #pragma once
 
 #include <benchmark/benchmark.h>
+#include <random>
+#include <type_traits>
+#include <vector>
 #include <zelip8.h>
 
 #ifdef ZEL_HAVE_OPENCV
@@ -24,6 +27,17 @@ inline void set_threads(int n) {
 // Reports bytes moved per iteration as GB/s ("bytes_per_second").
 inline void bytes(benchmark::State& st, double perIteration) {
     st.SetBytesProcessed(int64_t(double(st.iterations()) * perIteration));
+}
+
+// A 1920x1080 image of `channels` samples a pixel, uniform integers in
+// [lo, hi]; float images get a quarter added so that they are not integral.
+template <class T>
+std::vector<T> random_image(int channels, unsigned seed, long long lo, long long hi) {
+    std::vector<T> v(std::size_t(kW) * kH * channels);
+    std::mt19937 rng(seed);
+    std::uniform_int_distribution<long long> d(lo, hi);
+    for (T& x : v) x = std::is_floating_point<T>::value ? T(double(d(rng)) + 0.25) : T(d(rng));
+    return v;
 }
 
 } // namespace zb

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <initializer_list>
 #include <random>
 #include <vector>
 
@@ -77,6 +78,36 @@ inline const std::vector<int>& sweep_widths() {
     static const std::vector<int> w = {1, 2, 3, 7, 15, 16, 17, 31, 32, 33, 63, 64, 65, 100, 127, 129, 257};
     return w;
 }
+
+// Image shapes of a sweep: width, height, extra step and placement, in
+// samples. Every other shape is flush against the guard page that follows it
+// (overruns trap); the others start 1 to 3 samples after the guard page before
+// them (unaligned, underruns trap).
+struct Shape {
+    int w, h, extra;
+    Flush flush;
+    int offset;
+};
+inline std::vector<Shape> sweep_shapes(std::initializer_list<int> heights, int extraUnit) {
+    std::vector<Shape> v;
+    int k = 0;
+    for (int w : sweep_widths())
+        for (int h : heights) {
+            ++k;
+            v.push_back({w, h, (k % 3) * extraUnit, k % 2 ? Flush::Tail : Flush::Head, k % 2 ? 0 : 1 + k % 3});
+        }
+    return v;
+}
+template <class T>
+Image<T> make_image(const Shape& s, int channels) {
+    return Image<T>(s.w, s.h, channels, s.extra * int(sizeof(T)), s.flush, std::size_t(s.offset) * sizeof(T));
+}
+
+// Samples a pixel in memory and samples with a result, per layout.
+struct Form {
+    int mc, ac;
+};
+constexpr Form kC1{1, 1}, kC3{3, 3}, kC4{4, 4}, kAC4{4, 3};
 
 // The names the library's declaration lists define, in list order.
 const std::vector<const char*>& registry();

@@ -15,24 +15,21 @@
 
 namespace {
 
-struct Form { int mc, ac; };
-constexpr Form kC1{1, 1}, kC3{3, 3}, kC4{4, 4}, kAC4{4, 3};
+using zt::Form;
+using zt::kAC4;
+using zt::kC1;
+using zt::kC3;
+using zt::kC4;
+using zt::Shape;
 
-struct Shape { int w, h, extra; zt::Flush flush; int offset; };
 std::vector<Shape> shapes() {
-    std::vector<Shape> v;
-    int k = 0;
-    for (int w : zt::sweep_widths())
-        for (int h : {1, 4}) {
-            ++k;
-            v.push_back({w, h, (k % 3) * 3, k % 2 ? zt::Flush::Tail : zt::Flush::Head, k % 2 ? 0 : 1 + k % 3});
-        }
+    auto v = zt::sweep_shapes({1, 4}, 3);
     return v;
 }
 
 template <class T>
 zt::Image<T> make(const Shape& s, int mc) {
-    return zt::Image<T>(s.w, s.h, mc, s.extra * int(sizeof(T)), s.flush, s.offset * sizeof(T));
+    return zt::make_image<T>(s, mc);
 }
 
 // Random samples; `narrow` draws from a handful of values so that the

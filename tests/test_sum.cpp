@@ -12,28 +12,22 @@
 
 namespace {
 
-// Channels in memory and channels with a result, per layout token.
-struct Form { int mc, ac; };
-constexpr Form kC1{1, 1}, kC3{3, 3}, kC4{4, 4}, kAC4{4, 3};
+using zt::Form;
+using zt::kAC4;
+using zt::kC1;
+using zt::kC3;
+using zt::kC4;
+using zt::Shape;
 
-// Image shapes of the sweeps: width, height, extra step bytes (in samples),
-// placement (Tail: overruns trap; Head + one sample: unaligned, underruns trap).
-struct Shape { int w, h, extra; zt::Flush flush; int offset; };
 std::vector<Shape> shapes() {
-    std::vector<Shape> v;
-    int k = 0;
-    for (int w : zt::sweep_widths())
-        for (int h : {1, 3}) {
-            ++k;
-            v.push_back({w, h, (k % 3) * 5, k % 2 ? zt::Flush::Tail : zt::Flush::Head, k % 2 ? 0 : 1 + k % 3});
-        }
+    auto v = zt::sweep_shapes({1, 3}, 5);
     v.push_back({40, 17, 7, zt::Flush::Head, 1});
     return v;
 }
 
 template <class T>
 zt::Image<T> make(const Shape& s, int mc) {
-    return zt::Image<T>(s.w, s.h, mc, s.extra * int(sizeof(T)), s.flush, s.offset * sizeof(T));
+    return zt::make_image<T>(s, mc);
 }
 
 template <class T>

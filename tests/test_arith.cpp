@@ -125,8 +125,9 @@ struct Ref {
         case R::SubR: o[0] = ref_scale<P>(u && x[0] < y[0] ? 0 : i128(x[0]) - y[0], n); return false;
         case R::Mul: o[0] = ref_scale<P>(i128(x[0]) * y[0], n); return false;
         case R::MulScale: {
-            const double full = double(std::numeric_limits<P>::max());
-            o[0] = P(std::nearbyint(double(x[0]) * double(y[0]) / full)); // p / full scale, rounded
+            // the stated rule: (p + 1 + (p >> bits)) >> bits on the exact product
+            const unsigned long long p = (unsigned long long)x[0] * y[0], bits = sizeof(P) * 8;
+            o[0] = P((p + 1 + (p >> bits)) >> bits);
             return false;
         }
         default: break;
@@ -477,4 +478,175 @@ TEST(AddSub, Constant) {
     CST_SET_CPLX(AddC, R::Add, 2, false);
     CST_SET_REAL(SubC, R::SubR, consts_real);
     CST_SET_CPLX(SubC, R::SubR, 2, false);
+}
+
+TEST(Mul, Binary) {
+    PW_BIN_SET(Mul, R::Mul);
+    CX_BIN_SET(Mul, R::Mul);
+}
+
+TEST(Mul, Constant) {
+    CST_SET_REAL(MulC, R::Mul, consts_real);
+    CST_SET_CPLX(MulC, R::Mul, 2, true);
+}
+
+#define MULSCALE_SET(T)                                                                                              \
+    BINF_CASE(MulScale, T, C1, Zel##T, Zel##T, 1, SHAPE_C1, Ref<Zel##T>{R::MulScale});                                 \
+    BINF_CASE(MulScale, T, C3, Zel##T, Zel##T, 1, SHAPE_C3, Ref<Zel##T>{R::MulScale});                                 \
+    BINF_CASE(MulScale, T, C4, Zel##T, Zel##T, 1, SHAPE_C4, Ref<Zel##T>{R::MulScale});                                 \
+    BINF_CASE(MulScale, T, AC4, Zel##T, Zel##T, 1, SHAPE_AC4, Ref<Zel##T>{R::MulScale});                               \
+    CST1F_CASE(MulCScale, T, Zel##T, Zel##T, 1, Ref<Zel##T>{R::MulScale}, consts_real<Zel##T>());                      \
+    CSTF_CASE(MulCScale, T, C3, Zel##T, Zel##T, 1, SHAPE_C3, Ref<Zel##T>{R::MulScale}, consts_real<Zel##T>());         \
+    CSTF_CASE(MulCScale, T, C4, Zel##T, Zel##T, 1, SHAPE_C4, Ref<Zel##T>{R::MulScale}, consts_real<Zel##T>());         \
+    CSTF_CASE(MulCScale, T, AC4, Zel##T, Zel##T, 1, SHAPE_AC4, Ref<Zel##T>{R::MulScale}, consts_real<Zel##T>())
+
+TEST(Mul, FullScale) {
+    MULSCALE_SET(8u);
+    MULSCALE_SET(16u);
+}
+
+TEST(Div, Binary) {
+    PW_BIN_SET(Div, R::Div);
+    CX_BIN_SET(Div, R::Div);
+}
+
+TEST(Div, Constant) {
+    CST_SET_REAL(DivC, R::DivC, consts_nonzero);
+    CST_SET_CPLX(DivC, R::DivC, 2, true);
+}
+
+#define RND_CASE(T, L, SH)                                                                                           \
+    for (int m = 0; m < 3; ++m)                                                                                      \
+        check_bin<Zel##T>("Div_Round_" #T "_" #L, SH,                                                                \
+                          [m](const Zel##T* a, int as, const Zel##T* b, int bs, Zel##T* d, int ds, ZeliSize r, int n) { \
+                              return zeliDiv_Round_##T##_##L##RSfs(a, as, b, bs, d, ds, r, m, n);                   \
+                          },                                                                                         \
+                          [m](const Zel##T* a, int as, Zel##T* d, int ds, ZeliSize r, int n) {                      \
+                              return zeliDiv_Round_##T##_##L##IRSfs(a, as, d, ds, r, m, n);                         \
+                          },                                                                                         \
+                          Ref<Zel##T>{R::Div, m}, scales<Zel##T>(false, R::Div), 9)
+#define RND_SET(T) RND_CASE(T, C1, SHAPE_C1); RND_CASE(T, C3, SHAPE_C3); RND_CASE(T, C4, SHAPE_C4); RND_CASE(T, AC4, SHAPE_AC4)
+
+TEST(Div, Round) {
+    RND_SET(8u);
+    RND_SET(16u);
+    RND_SET(16s);
+}
+
+// ---- Stated values and the order of checks -------------------------------------------
+TEST(Arith, StatedValues) {
+    auto add8 = [](Zel8u a, Zel8u b, int n) {
+        Zel8u d = 0;
+        zeliAdd_8u_C1RSfs(&a, 1, &b, 1, &d, 1, {1, 1}, n);
+        return int(d);
+    };
+    EXPECT_EQ(add8(200, 100, 0), 255);
+    EXPECT_EQ(add8(200, 100, 1), 150);
+    EXPECT_EQ(add8(1, 2, 1), 2);
+    EXPECT_EQ(add8(0, 1, 1), 0);
+    EXPECT_EQ(add8(255, 255, 9), 1);
+    EXPECT_EQ(add8(128, 128, 9), 0);
+    EXPECT_EQ(add8(255, 255, 10), 0);
+    EXPECT_EQ(add8(1, 0, -8), 255);
+    EXPECT_EQ(add8(1, 1, -7), 255);
+    Zel8u s1 = 10, s2 = 3, d8 = 9;
+    zeliSub_8u_C1RSfs(&s1, 1, &s2, 1, &d8, 1, {1, 1}, 0);
+    EXPECT_EQ(d8, 0);
+    zeliSub_8u_C1RSfs(&s2, 1, &s1, 1, &d8, 1, {1, 1}, 0);
+    EXPECT_EQ(d8, 7);
+    Zel16s a = -32768, b = 32767, d16 = 0;
+    zeliSub_16s_C1RSfs(&a, 2, &b, 2, &d16, 2, {1, 1}, 1);
+    EXPECT_EQ(d16, 32767);
+    Zel16s m = -32768;
+    zeliMul_16s_C1RSfs(&m, 2, &m, 2, &d16, 2, {1, 1}, 30);
+    EXPECT_EQ(d16, 1);
+    zeliMul_16s_C1RSfs(&m, 2, &m, 2, &d16, 2, {1, 1}, 31);
+    EXPECT_EQ(d16, 0);
+    Zel16sc c = {-32768, -32768}, dc = {1, 1};
+    zeliMul_16sc_C1RSfs(&c, 4, &c, 4, &dc, 4, {1, 1}, 0);
+    EXPECT_EQ(dc.re, 0);
+    EXPECT_EQ(dc.im, 32767);
+    Zel16u z0 = 0, d16u = 5;
+    EXPECT_EQ(zeliAddC_16u_C1RSfs(&z0, 2, 0, &d16u, 2, {1, 1}, -20), zelStatusOk);
+    EXPECT_EQ(d16u, 0);
+    auto div8 = [](Zel8u num, Zel8u den, int mode) {
+        Zel8u d = 0;
+        const ZelStatus st = mode < 0 ? zeliDiv_8u_C1RSfs(&den, 1, &num, 1, &d, 1, {1, 1}, 0)
+                                      : zeliDiv_Round_8u_C1RSfs(&den, 1, &num, 1, &d, 1, {1, 1}, mode, 0);
+        return int(d) + (st == zelStatusDivisionByZeroWarning ? 1000 : 0);
+    };
+    EXPECT_EQ(div8(7, 2, -1), 4);
+    EXPECT_EQ(div8(5, 2, -1), 2);
+    EXPECT_EQ(div8(5, 0, -1), 1255);
+    EXPECT_EQ(div8(0, 0, -1), 1000);
+    EXPECT_EQ(div8(7, 2, 0), 3);
+    EXPECT_EQ(div8(7, 2, 1), 4);
+    EXPECT_EQ(div8(7, 2, 2), 4);
+    EXPECT_EQ(div8(5, 2, 0), 2);
+    EXPECT_EQ(div8(5, 2, 1), 2);
+    EXPECT_EQ(div8(5, 2, 2), 3);
+    float num[3] = {1.0f, -1.0f, 0.0f}, den[3] = {-0.0f, 0.0f, 0.0f}, q[3];
+    EXPECT_EQ(zeliDiv_32f_C1R(den, 12, num, 12, q, 12, {3, 1}), zelStatusDivisionByZeroWarning);
+    EXPECT_EQ(q[0], INFINITY);
+    EXPECT_EQ(q[1], -INFINITY);
+    EXPECT_TRUE(std::isnan(q[2]));
+}
+
+TEST(Arith, OrderOfChecks) {
+    Zel8u p[64] = {};
+    Zel16sc c[16] = {};
+    const Zel8u v3[4] = {1, 2, 3, 4}, z3[4] = {1, 0, 3, 4};
+    // null before size in C1, width before null in C3 and C4
+    EXPECT_EQ(zeliAdd_8u_C1RSfs(nullptr, 1, p, 1, p, 1, {0, 1}, 0), zelStatusNullPointer);
+    EXPECT_EQ(zeliAdd_8u_C3RSfs(nullptr, 1, p, 1, p, 1, {0, 1}, 0), zelStatusBadSize);
+    EXPECT_EQ(zeliAdd_8u_C3RSfs(nullptr, 1, p, 1, p, 1, {1, 0}, 0), zelStatusNullPointer);
+    EXPECT_EQ(zeliMul_8u_C4RSfs(nullptr, 1, p, 1, p, 1, {0, 1}, 0), zelStatusBadSize);
+    EXPECT_EQ(zeliAdd_8u_AC4RSfs(nullptr, 1, p, 1, p, 1, {0, 1}, 0), zelStatusNullPointer);
+    EXPECT_EQ(zeliAddC_8u_C3RSfs(p, 3, v3, p, 3, {0, 1}, 0), zelStatusBadSize);
+    // no step check in real forms; complex forms check steps last
+    EXPECT_EQ(zeliAdd_8u_C1RSfs(p, 0, p, -5, p, 0, {1, 1}, 0), zelStatusOk);
+    EXPECT_EQ(zeliAdd_16sc_C1RSfs(c, 0, c, 4, c, 4, {1, 1}, 0), zelStatusBadStep);
+    EXPECT_EQ(zeliAdd_16sc_C1RSfs(c, 0, c, 4, c, 4, {1, 0}, 0), zelStatusBadSize);
+    EXPECT_EQ(zeliAdd_16sc_C1RSfs(nullptr, 0, c, 4, c, 4, {1, 0}, 0), zelStatusNullPointer);
+    // full-scale products: null, step, size
+    EXPECT_EQ(zeliMulScale_8u_C1R(p, 0, p, 1, p, 1, {0, 1}), zelStatusBadStep);
+    EXPECT_EQ(zeliMulScale_8u_C1R(nullptr, 0, p, 1, p, 1, {0, 1}), zelStatusNullPointer);
+    // division: null, size, step, then round mode or zero constant
+    EXPECT_EQ(zeliDiv_8u_C1RSfs(p, 0, p, 1, p, 1, {0, 1}, 0), zelStatusBadSize);
+    EXPECT_EQ(zeliDiv_8u_C1RSfs(p, 0, p, 1, p, 1, {1, 1}, 0), zelStatusBadStep);
+    EXPECT_EQ(zeliDiv_Round_8u_C1RSfs(p, 0, p, 1, p, 1, {1, 1}, 3, 0), zelStatusBadStep);
+    EXPECT_EQ(zeliDiv_Round_8u_C1RSfs(p, 1, p, 1, p, 1, {1, 1}, 3, 0), zelStatusBadRoundMode);
+    EXPECT_EQ(zeliDiv_Round_8u_C1RSfs(p, 1, p, 1, p, 1, {1, 1}, -1, 0), zelStatusBadRoundMode);
+    EXPECT_EQ(zeliDivC_8u_C1RSfs(p, 0, 0, p, 1, {1, 1}, 0), zelStatusBadStep);
+    Zel8u before[8];
+    std::memcpy(before, p, 8);
+    p[0] = 9;
+    std::memcpy(before, p, 8);
+    EXPECT_EQ(zeliDivC_8u_C1RSfs(p, 1, 0, p + 4, 1, {4, 1}, 0), zelStatusDivisionByZero);
+    EXPECT_EQ(zeliDivC_8u_C3RSfs(p, 3, z3, p + 3, 3, {1, 1}, 0), zelStatusDivisionByZero);
+    EXPECT_EQ(std::memcmp(before, p, 8), 0);
+    const Zel32fc zc = {0.0f, 0.0f};
+    Zel32fc fc[2] = {};
+    EXPECT_EQ(zeliDivC_32fc_C1R(fc, 8, zc, fc + 1, 8, {1, 1}), zelStatusDivisionByZero);
+}
+
+// A warning of one row does not stop the others; divisors in the alpha channel
+// are not divisors.
+TEST(Div, ZeroDivisorPlacement) {
+    for (int w : {8, 16, 17, 33, 40}) {
+        for (int at : {0, 5, w - 1}) {
+            zt::Image<Zel8u> a(w, 3, 1), b(w, 3, 1), d(w, 3, 1);
+            for (int y = 0; y < 3; ++y)
+                for (int x = 0; x < w; ++x) a.at(x, y) = 3, b.at(x, y) = Zel8u(x + 1);
+            a.at(at, 1) = 0;
+            ASSERT_EQ(zeliDiv_8u_C1RSfs(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), a.size(), 0),
+                      zelStatusDivisionByZeroWarning);
+            EXPECT_EQ(d.at(at, 1), 255);
+            EXPECT_EQ(d.at(w - 1, 2), Zel8u(std::nearbyint(w / 3.0)));
+        }
+    }
+    zt::Image<Zel16s> a(5, 1, 4), b(5, 1, 4), d(5, 1, 4);
+    for (int x = 0; x < 5; ++x)
+        for (int c = 0; c < 4; ++c) a.at(x, 0, c) = c == 3 ? 0 : 2, b.at(x, 0, c) = 8;
+    EXPECT_EQ(zeliDiv_16s_AC4RSfs(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), a.size(), 0), zelStatusOk);
 }

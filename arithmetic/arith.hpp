@@ -174,10 +174,36 @@ struct IntOp {
     static constexpr bool kVec = sizeof(P) <= 2 && same<W, int>;
     int n;
     P operator()(P x, P y, int&) const { return scale<C, P>(raw<O, W>(x, y), n); }
+    // 8u on 16-bit lanes: sums and differences fit signed, products unsigned.
+    __m128i vec8(__m128i x, __m128i y) const {
+        const __m128i z = _mm_setzero_si128(), one = _mm_set1_epi16(1), max = _mm_set1_epi16(255);
+        if constexpr (O == Op::Mul) {
+            __m128i p = _mm_mullo_epi16(x, y);
+            if constexpr (C == Sc::One) p = _mm_srli_epi16(_mm_add_epi16(p, _mm_and_si128(_mm_srli_epi16(p, 1), one)), 1);
+            if constexpr (C == Sc::Neg) p = _mm_sll_epi16(_mm_min_epu16(p, max), _mm_cvtsi32_si128(-n));
+            if constexpr (C == Sc::Bound) p = _mm_andnot_si128(_mm_cmpeq_epi16(p, z), max);
+            return _mm_min_epu16(p, max);
+        } else {
+            __m128i s = O == Op::Add ? _mm_add_epi16(x, y) : O == Op::Sub ? _mm_max_epi16(_mm_sub_epi16(y, x), z)
+                                                                         : _mm_max_epi16(_mm_sub_epi16(x, y), z);
+            if constexpr (C == Sc::One) s = _mm_srai_epi16(_mm_add_epi16(s, _mm_and_si128(_mm_srai_epi16(s, 1), one)), 1);
+            if constexpr (C == Sc::Pos) {
+                const __m128i cnt = _mm_cvtsi32_si128(n), half = _mm_set1_epi16(short((1 << (n - 1)) - 1));
+                s = _mm_sra_epi16(_mm_add_epi16(_mm_add_epi16(s, half), _mm_and_si128(_mm_sra_epi16(s, cnt), one)), cnt);
+            }
+            if constexpr (C == Sc::Neg) s = _mm_sll_epi16(_mm_min_epi16(s, max), _mm_cvtsi32_si128(-n));
+            if constexpr (C == Sc::Bound) s = _mm_and_si128(_mm_cmpgt_epi16(s, z), max);
+            return s;
+        }
+    }
     V vec(V x, V y, int&) const {
         if constexpr (kVec) {
             if constexpr (C == Sc::Plain && O != Op::Mul) {
                 return vsat<O, P>(x, y);
+            } else if constexpr (same<P, Zel8u> && !(O == Op::Mul && C == Sc::Pos)) {
+                const __m128i z = _mm_setzero_si128();
+                return _mm_packus_epi16(vec8(_mm_unpacklo_epi8(x, z), _mm_unpacklo_epi8(y, z)),
+                                        vec8(_mm_unpackhi_epi8(x, z), _mm_unpackhi_epi8(y, z)));
             } else {
                 __m128i qx[4], qy[4];
                 Quads<P>::widen(x, qx);

@@ -114,7 +114,7 @@ struct Ref {
             }
             const double c = den[0], d = den[1], d2 = c * c + d * d;
             const double re = (double(num[0]) * c + double(num[1]) * d) / d2, im = (double(num[1]) * c - double(num[0]) * d) / d2;
-            auto part = [&](double v) { v = std::nearbyint(std::ldexp(v, -n)); return v < -4e18 ? sat<P>(i128(-1) << 80) : v > 4e18 ? sat<P>(i128(1) << 80) : sat<P>(i128((long long)v)); };
+            auto part = [&](double v) { v = std::nearbyint(std::ldexp(v, -n)); return v < -4e18 ? sat<P>(-(i128(1) << 80)) : v > 4e18 ? sat<P>(i128(1) << 80) : sat<P>(i128((long long)v)); };
             o[0] = part(re);
             o[1] = part(im);
             return false;

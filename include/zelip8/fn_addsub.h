@@ -2,6 +2,19 @@
    zeliAdd: dst = src1 + src2; zeliSub: dst = src2 - src1; zeliAddC: dst = src + value;
    zeliSubC: dst = src - value. Sfs forms scale by two to the minus scaleFactor,
    round ties to even and saturate; complex forms work part by part. */
+/* Included with ZEL_ARITH_SHAPES_ONLY, this file only defines the entry shapes
+   (the multiply and divide lists use them); with ZEL_ARITH_SHAPES_DONE it
+   only removes them again. */
+#ifdef ZEL_ARITH_SHAPES_DONE
+#undef ZEL_BIN
+#undef ZEL_BINF
+#undef ZEL_CST1
+#undef ZEL_CST
+#undef ZEL_CST1F
+#undef ZEL_CSTF
+#undef ZEL_BIN_SET
+#undef ZEL_CST_SET
+#else
 #define ZEL_BIN(F, OP, T, L)                                                                                   \
     ZEL_FN(ZelStatus, zeli##F##_##T##_##L##RSfs,                                                               \
            (const Zel##T* pSrc1, int src1Step, const Zel##T* pSrc2, int src2Step, Zel##T* pDst, int dstStep,   \
@@ -66,12 +79,8 @@ ZEL_BIN_SET(Add, Add)
 ZEL_BIN_SET(Sub, Sub)
 ZEL_CST_SET(AddC, Add)
 ZEL_CST_SET(SubC, SubR)
-#undef ZEL_BIN
-#undef ZEL_BINF
-#undef ZEL_CST1
-#undef ZEL_CST
-#undef ZEL_CST1F
-#undef ZEL_CSTF
-#undef ZEL_BIN_SET
-#undef ZEL_CST_SET
+#define ZEL_ARITH_SHAPES_DONE
+#include "zelip8/fn_addsub.h"
+#undef ZEL_ARITH_SHAPES_DONE
+#endif
 #endif

@@ -24,11 +24,6 @@ ZEL_RND_SET(16s)
 ZEL_CST_SET(DivC, DivR)
 #undef ZEL_RND_SET
 #undef ZEL_RND
-#undef ZEL_BIN
-#undef ZEL_BINF
-#undef ZEL_CST1
-#undef ZEL_CST
-#undef ZEL_CST1F
-#undef ZEL_CSTF
-#undef ZEL_BIN_SET
-#undef ZEL_CST_SET
+#define ZEL_ARITH_SHAPES_DONE
+#include "zelip8/fn_addsub.h"
+#undef ZEL_ARITH_SHAPES_DONE

@@ -14,11 +14,6 @@ ZEL_CST_SET(MulC, Mul)
 ZEL_MULSCALE(8u)
 ZEL_MULSCALE(16u)
 #undef ZEL_MULSCALE
-#undef ZEL_BIN
-#undef ZEL_BINF
-#undef ZEL_CST1
-#undef ZEL_CST
-#undef ZEL_CST1F
-#undef ZEL_CSTF
-#undef ZEL_BIN_SET
-#undef ZEL_CST_SET
+#define ZEL_ARITH_SHAPES_DONE
+#include "zelip8/fn_addsub.h"
+#undef ZEL_ARITH_SHAPES_DONE

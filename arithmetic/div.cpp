@@ -198,7 +198,8 @@ template <class P> constexpr int kDivLow = same<P, Zel8u> ? -15 : same<P, Zel16s
 template <class P> constexpr int kDivHigh = same<P, Zel8u> ? 8 : same<P, Zel16s> ? 15 : 16;
 
 inline float pow2_neg(int n) {
-    const int bits = 0x3f800000 - (n << 23);
+    // exact for the scale factors of the float path; others never use it
+    const unsigned bits = 0x3f800000u - (unsigned(n) << 23);
     float f;
     std::memcpy(&f, &bits, sizeof f);
     return f;

@@ -320,11 +320,13 @@ inline int row_run(const Op& op, const E* a, const E* b, E* d, int count) {
     if constexpr (Op::kVec) {
         using V = typename Op::V;
         constexpr int lanes = 16 / int(sizeof(E));
-        constexpr int K = CONST ? PER / gcd_c(PER, lanes) : 1;
+        // registers a round: a whole period of the constant pattern, or four
+        // independent ones for two images
+        constexpr int K = CONST ? PER / gcd_c(PER, lanes) : 4;
         constexpr int step = K * lanes;
         const std::uintptr_t addr = reinterpret_cast<std::uintptr_t>(d);
         const int head = addr % sizeof(E) ? 0 : int((16 - addr % 16) % 16 / sizeof(E));
-        if (count >= 31 && count - head >= step) {
+        if (count >= 31 && count - head >= (CONST ? step : lanes)) {
             for (; i < head; ++i) d[i] = op(a[i], CONST ? b[i % PER] : b[i], z);
             V c[K];
             if constexpr (CONST)
@@ -334,6 +336,8 @@ inline int row_run(const Op& op, const E* a, const E* b, E* d, int count) {
                     const int j = i + k * lanes;
                     vstore(d + j, op.vec(vload<V>(a + j), CONST ? c[k] : vload<V>(b + j), z));
                 }
+            if constexpr (!CONST)
+                for (; i + lanes <= count; i += lanes) vstore(d + i, op.vec(vload<V>(a + i), vload<V>(b + i), z));
         }
     }
     for (; i < count; ++i) d[i] = op(a[i], CONST ? b[i % PER] : b[i], z);

@@ -371,49 +371,28 @@ template <class P> std::vector<int> scales(bool complex, R op) {
                  [](const P* v, P* d, int ds, ZeliSize r, int) { return zeli##F##_##T##_C1IR(*(const E*)v, (E*)d, ds, r); }, \
                  REF, {0}, VALS)
 
-// Part-wise operations (add, subtract): a complex type is two parts an element,
-// each its own element of the reference.
+// Real members in their four layouts.
+#define BIN_LAYOUTS(CASE, F, T, REF)                                                                                 \
+    CASE(F, T, C1, Zel##T, Zel##T, 1, SHAPE_C1, Ref<Zel##T>{REF});                                                   \
+    CASE(F, T, C3, Zel##T, Zel##T, 1, SHAPE_C3, Ref<Zel##T>{REF});                                                   \
+    CASE(F, T, C4, Zel##T, Zel##T, 1, SHAPE_C4, Ref<Zel##T>{REF});                                                   \
+    CASE(F, T, AC4, Zel##T, Zel##T, 1, SHAPE_AC4, Ref<Zel##T>{REF})
 #define PW_BIN_SET(F, REF)                                                                                           \
-    BIN_CASE(F, 8u, C1, Zel8u, Zel8u, 1, SHAPE_C1, Ref<Zel8u>{REF});                                                 \
-    BIN_CASE(F, 8u, C3, Zel8u, Zel8u, 1, SHAPE_C3, Ref<Zel8u>{REF});                                                 \
-    BIN_CASE(F, 8u, C4, Zel8u, Zel8u, 1, SHAPE_C4, Ref<Zel8u>{REF});                                                 \
-    BIN_CASE(F, 8u, AC4, Zel8u, Zel8u, 1, SHAPE_AC4, Ref<Zel8u>{REF});                                               \
-    BIN_CASE(F, 16u, C1, Zel16u, Zel16u, 1, SHAPE_C1, Ref<Zel16u>{REF});                                             \
-    BIN_CASE(F, 16u, C3, Zel16u, Zel16u, 1, SHAPE_C3, Ref<Zel16u>{REF});                                             \
-    BIN_CASE(F, 16u, C4, Zel16u, Zel16u, 1, SHAPE_C4, Ref<Zel16u>{REF});                                             \
-    BIN_CASE(F, 16u, AC4, Zel16u, Zel16u, 1, SHAPE_AC4, Ref<Zel16u>{REF});                                           \
-    BIN_CASE(F, 16s, C1, Zel16s, Zel16s, 1, SHAPE_C1, Ref<Zel16s>{REF});                                             \
-    BIN_CASE(F, 16s, C3, Zel16s, Zel16s, 1, SHAPE_C3, Ref<Zel16s>{REF});                                             \
-    BIN_CASE(F, 16s, C4, Zel16s, Zel16s, 1, SHAPE_C4, Ref<Zel16s>{REF});                                             \
-    BIN_CASE(F, 16s, AC4, Zel16s, Zel16s, 1, SHAPE_AC4, Ref<Zel16s>{REF});                                           \
-    BINF_CASE(F, 32f, C1, Zel32f, Zel32f, 1, SHAPE_C1, Ref<Zel32f>{REF});                                            \
-    BINF_CASE(F, 32f, C3, Zel32f, Zel32f, 1, SHAPE_C3, Ref<Zel32f>{REF});                                            \
-    BINF_CASE(F, 32f, C4, Zel32f, Zel32f, 1, SHAPE_C4, Ref<Zel32f>{REF});                                            \
-    BINF_CASE(F, 32f, AC4, Zel32f, Zel32f, 1, SHAPE_AC4, Ref<Zel32f>{REF})
+    BIN_LAYOUTS(BIN_CASE, F, 8u, REF);                                                                               \
+    BIN_LAYOUTS(BIN_CASE, F, 16u, REF);                                                                              \
+    BIN_LAYOUTS(BIN_CASE, F, 16s, REF);                                                                              \
+    BIN_LAYOUTS(BINF_CASE, F, 32f, REF)
 
-// Complex members with part-wise operations: a C1 pixel holds two parts.
-#define PW_CPLX_BIN_SET(F, REF)                                                                                      \
-    BIN_CASE(F, 16sc, C1, Zel16s, Zel16sc, 2, SHAPE_C1, Ref<Zel16s>{REF});                                           \
-    BIN_CASE(F, 16sc, C3, Zel16s, Zel16sc, 2, SHAPE_C3, Ref<Zel16s>{REF});                                           \
-    BIN_CASE(F, 16sc, AC4, Zel16s, Zel16sc, 2, SHAPE_AC4, Ref<Zel16s>{REF});                                         \
-    BIN_CASE(F, 32sc, C1, Zel32s, Zel32sc, 2, SHAPE_C1, Ref<Zel32s>{REF});                                           \
-    BIN_CASE(F, 32sc, C3, Zel32s, Zel32sc, 2, SHAPE_C3, Ref<Zel32s>{REF});                                           \
-    BIN_CASE(F, 32sc, AC4, Zel32s, Zel32sc, 2, SHAPE_AC4, Ref<Zel32s>{REF});                                         \
-    BINF_CASE(F, 32fc, C1, Zel32f, Zel32fc, 2, SHAPE_C1, Ref<Zel32f>{REF});                                          \
-    BINF_CASE(F, 32fc, C3, Zel32f, Zel32fc, 2, SHAPE_C3, Ref<Zel32f>{REF});                                          \
-    BINF_CASE(F, 32fc, AC4, Zel32f, Zel32fc, 2, SHAPE_AC4, Ref<Zel32f>{REF})
-
-// Complex members with complex products and quotients: two parts an element.
-#define CX_BIN_SET(F, REF)                                                                                           \
-    BIN_CASE(F, 16sc, C1, Zel16s, Zel16sc, 2, SHAPE_C1, (Ref<Zel16s>{REF, -1, true}));                                 \
-    BIN_CASE(F, 16sc, C3, Zel16s, Zel16sc, 2, SHAPE_C3, (Ref<Zel16s>{REF, -1, true}));                                 \
-    BIN_CASE(F, 16sc, AC4, Zel16s, Zel16sc, 2, SHAPE_AC4, (Ref<Zel16s>{REF, -1, true}));                               \
-    BIN_CASE(F, 32sc, C1, Zel32s, Zel32sc, 2, SHAPE_C1, (Ref<Zel32s>{REF, -1, true}));                                 \
-    BIN_CASE(F, 32sc, C3, Zel32s, Zel32sc, 2, SHAPE_C3, (Ref<Zel32s>{REF, -1, true}));                                 \
-    BIN_CASE(F, 32sc, AC4, Zel32s, Zel32sc, 2, SHAPE_AC4, (Ref<Zel32s>{REF, -1, true}));                               \
-    BINF_CASE(F, 32fc, C1, Zel32f, Zel32fc, 2, SHAPE_C1, (Ref<Zel32f>{REF, -1, true}));                                \
-    BINF_CASE(F, 32fc, C3, Zel32f, Zel32fc, 2, SHAPE_C3, (Ref<Zel32f>{REF, -1, true}));                                \
-    BINF_CASE(F, 32fc, AC4, Zel32f, Zel32fc, 2, SHAPE_AC4, (Ref<Zel32f>{REF, -1, true}))
+// Complex members: two parts an element; CPLX false for part-wise operations
+// (add, subtract), true for complex products and quotients.
+#define CPLX_LAYOUTS(CASE, F, T, P, REF, CPLX)                                                                       \
+    CASE(F, T, C1, P, Zel##T, 2, SHAPE_C1, (Ref<P>{REF, -1, CPLX}));                                                 \
+    CASE(F, T, C3, P, Zel##T, 2, SHAPE_C3, (Ref<P>{REF, -1, CPLX}));                                                 \
+    CASE(F, T, AC4, P, Zel##T, 2, SHAPE_AC4, (Ref<P>{REF, -1, CPLX}))
+#define CPLX_BIN_SET(F, REF, CPLX)                                                                                   \
+    CPLX_LAYOUTS(BIN_CASE, F, 16sc, Zel16s, REF, CPLX);                                                              \
+    CPLX_LAYOUTS(BIN_CASE, F, 32sc, Zel32s, REF, CPLX);                                                              \
+    CPLX_LAYOUTS(BINF_CASE, F, 32fc, Zel32f, REF, CPLX)
 
 template <class P> std::vector<std::vector<P>> consts_real() {
     if (std::is_floating_point<P>::value) return {{P(1.5), P(-2.25), P(0.0), P(7)}, {P(0), P(0), P(0), P(0)}};
@@ -463,9 +442,9 @@ template <class P> std::vector<std::vector<P>> consts_cplx() {
 
 TEST(AddSub, Binary) {
     PW_BIN_SET(Add, R::Add);
-    PW_CPLX_BIN_SET(Add, R::Add);
+    CPLX_BIN_SET(Add, R::Add, false);
     PW_BIN_SET(Sub, R::Sub);
-    PW_CPLX_BIN_SET(Sub, R::Sub);
+    CPLX_BIN_SET(Sub, R::Sub, false);
 }
 
 TEST(AddSub, Constant) {
@@ -477,7 +456,7 @@ TEST(AddSub, Constant) {
 
 TEST(Mul, Binary) {
     PW_BIN_SET(Mul, R::Mul);
-    CX_BIN_SET(Mul, R::Mul);
+    CPLX_BIN_SET(Mul, R::Mul, true);
 }
 
 TEST(Mul, Constant) {
@@ -502,7 +481,7 @@ TEST(Mul, FullScale) {
 
 TEST(Div, Binary) {
     PW_BIN_SET(Div, R::Div);
-    CX_BIN_SET(Div, R::Div);
+    CPLX_BIN_SET(Div, R::Div, true);
 }
 
 TEST(Div, Constant) {

@@ -1,0 +1,614 @@
+// Pixelwise arithmetic of two images or an image and a constant: the scale
+// factor rule, the operation objects (each with a scalar form and, where it
+// pays, an SSE4.1 form computing the same bits) and the one row loop that runs
+// them, plus the entry templates that check arguments, pick the scale case,
+// decide on threads and walk the rows.
+#pragma once
+
+#include "core/frame.hpp"
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <type_traits>
+
+namespace zel {
+
+// Operations. Sub is b - a (the first operand is what is taken away), SubR is
+// a - b (a constant taken from the image). Div is b / a, DivR is a / b.
+enum class Op { Add, Sub, SubR, Mul, MulScale, Div, DivR };
+
+// Cases of the scale factor n: each has a kernel of its own.
+enum class Sc { Plain, One, Pos, Neg, Bound, Zero };
+
+// A complex sample is worked part by part where the operation allows.
+template <class E> struct Parts { using P = E; static constexpr int k = 1; static constexpr bool complex = false; };
+template <> struct Parts<Zel16sc> { using P = Zel16s; static constexpr int k = 2; static constexpr bool complex = true; };
+template <> struct Parts<Zel32sc> { using P = Zel32s; static constexpr int k = 2; static constexpr bool complex = true; };
+template <> struct Parts<Zel32fc> { using P = Zel32f; static constexpr int k = 2; static constexpr bool complex = true; };
+
+template <class P> constexpr bool is_f = std::is_floating_point<P>::value;
+template <class A, class B> constexpr bool same = std::is_same<A, B>::value;
+
+// ---- The scale factor rule -------------------------------------------------
+// Limits per operation and type: the destination is zero when n is above
+// `upper`; every non-zero result saturates when n is at or below `bound`.
+struct Limits { int upper, bound; };
+template <Op O, class E>
+constexpr Limits limits() {
+    constexpr bool mul = O == Op::Mul, sub = O == Op::Sub || O == Op::SubR;
+    if (same<E, Zel8u>) return mul ? Limits{16, -8} : sub ? Limits{8, -8} : Limits{9, -8};
+    if (same<E, Zel16u>) return mul ? Limits{32, -16} : sub ? Limits{16, -16} : Limits{17, -16};
+    if (same<E, Zel16s>) return mul ? Limits{30, -15} : Limits{16, -16};
+    if (same<E, Zel16sc>) return mul ? Limits{31, -16} : Limits{16, -16};
+    return mul ? Limits{63, -32} : Limits{32, -31}; // Zel32sc
+}
+
+template <Op O, class E>
+inline Sc scale_case(int n) {
+    constexpr Limits l = limits<O, E>();
+    if (n > l.upper) return Sc::Zero;
+    if (n <= l.bound) return Sc::Bound;
+    return n == 0 ? Sc::Plain : n == 1 ? Sc::One : n > 1 ? Sc::Pos : Sc::Neg;
+}
+
+// Wide integer holding an exact sum, difference or product of two parts.
+template <Op O, class P>
+using wide_t = std::conditional_t<(sizeof(P) == 4) || (O == Op::Mul && same<P, Zel16u>), long long, int>;
+
+template <class P, class W>
+inline W clampw(W s) {
+    constexpr W lo = W(std::numeric_limits<P>::min()), hi = W(std::numeric_limits<P>::max());
+    return s < lo ? lo : s > hi ? hi : s;
+}
+
+// s times two to the minus n, ties to the even quotient, saturated to P.
+template <Sc C, class P, class W>
+inline P scale(W s, int n) {
+    if constexpr (C == Sc::One) s = (s + ((s >> 1) & 1)) >> 1;
+    if constexpr (C == Sc::Pos) s = (s + (W(1) << (n - 1)) - 1 + ((s >> n) & 1)) >> n;
+    if constexpr (C == Sc::Neg) s = clampw<P>(s) * (W(1) << -n); // clamping first changes nothing
+    if constexpr (C == Sc::Bound) s = s > 0 ? W(std::numeric_limits<P>::max()) : s < 0 ? W(std::numeric_limits<P>::min()) : 0;
+    if constexpr (C == Sc::Zero) s = 0;
+    return P(clampw<P>(s));
+}
+
+// Exact sum, difference or product; an unsigned difference clamps at 0 first.
+template <Op O, class W, class P>
+inline W raw(P x, P y) {
+    constexpr bool u = !std::is_signed<P>::value;
+    if constexpr (O == Op::Add) return W(x) + W(y);
+    if constexpr (O == Op::Sub) return u && y < x ? W(0) : W(y) - W(x);
+    if constexpr (O == Op::SubR) return u && x < y ? W(0) : W(x) - W(y);
+    if constexpr (O == Op::Mul) return W(x) * W(y);
+    return 0;
+}
+
+// ---- SSE helpers on four 32-bit lanes -----------------------------------------
+// Widen 16 bytes of P to 32-bit quads, and narrow with saturation.
+template <class P> struct Quads;
+template <> struct Quads<Zel8u> {
+    static constexpr int n = 4;
+    static void widen(__m128i v, __m128i* q) {
+        q[0] = _mm_cvtepu8_epi32(v);
+        q[1] = _mm_cvtepu8_epi32(_mm_srli_si128(v, 4));
+        q[2] = _mm_cvtepu8_epi32(_mm_srli_si128(v, 8));
+        q[3] = _mm_cvtepu8_epi32(_mm_srli_si128(v, 12));
+    }
+    static __m128i narrow(const __m128i* q) {
+        return _mm_packus_epi16(_mm_packs_epi32(q[0], q[1]), _mm_packs_epi32(q[2], q[3]));
+    }
+};
+template <> struct Quads<Zel16u> {
+    static constexpr int n = 2;
+    static void widen(__m128i v, __m128i* q) {
+        q[0] = _mm_cvtepu16_epi32(v);
+        q[1] = _mm_cvtepu16_epi32(_mm_srli_si128(v, 8));
+    }
+    static __m128i narrow(const __m128i* q) { return _mm_packus_epi32(q[0], q[1]); }
+};
+template <> struct Quads<Zel16s> {
+    static constexpr int n = 2;
+    static void widen(__m128i v, __m128i* q) {
+        q[0] = _mm_cvtepi16_epi32(v);
+        q[1] = _mm_cvtepi16_epi32(_mm_srli_si128(v, 8));
+    }
+    static __m128i narrow(const __m128i* q) { return _mm_packs_epi32(q[0], q[1]); }
+};
+
+// The saturated extremes of P by the sign of each lane (0 stays 0).
+template <class P>
+inline __m128i vbound(__m128i s) {
+    const __m128i z = _mm_setzero_si128();
+    const __m128i hi = _mm_set1_epi32(std::numeric_limits<P>::max()), lo = _mm_set1_epi32(std::numeric_limits<P>::min());
+    return _mm_or_si128(_mm_and_si128(_mm_cmpgt_epi32(s, z), hi), _mm_and_si128(_mm_cmplt_epi32(s, z), lo));
+}
+
+// The vector form of scale() on 32-bit lanes; the narrowing pack saturates.
+template <Sc C, class P>
+inline __m128i vscale(__m128i s, int n) {
+    const __m128i one = _mm_set1_epi32(1);
+    if constexpr (C == Sc::One) s = _mm_srai_epi32(_mm_add_epi32(s, _mm_and_si128(_mm_srai_epi32(s, 1), one)), 1);
+    if constexpr (C == Sc::Pos) {
+        const __m128i cnt = _mm_cvtsi32_si128(n), half = _mm_set1_epi32((1 << (n - 1)) - 1);
+        s = _mm_sra_epi32(_mm_add_epi32(_mm_add_epi32(s, half), _mm_and_si128(_mm_sra_epi32(s, cnt), one)), cnt);
+    }
+    if constexpr (C == Sc::Neg) {
+        s = _mm_min_epi32(_mm_max_epi32(s, _mm_set1_epi32(std::numeric_limits<P>::min())),
+                          _mm_set1_epi32(std::numeric_limits<P>::max()));
+        s = _mm_sll_epi32(s, _mm_cvtsi32_si128(-n));
+    }
+    if constexpr (C == Sc::Bound) s = vbound<P>(s);
+    if constexpr (C == Sc::Zero) s = _mm_setzero_si128();
+    return s;
+}
+
+template <Op O, class P>
+inline __m128i vraw(__m128i x, __m128i y) {
+    constexpr bool u = !std::is_signed<P>::value;
+    const __m128i z = _mm_setzero_si128();
+    if constexpr (O == Op::Add) return _mm_add_epi32(x, y);
+    if constexpr (O == Op::Sub) return u ? _mm_max_epi32(_mm_sub_epi32(y, x), z) : _mm_sub_epi32(y, x);
+    if constexpr (O == Op::SubR) return u ? _mm_max_epi32(_mm_sub_epi32(x, y), z) : _mm_sub_epi32(x, y);
+    return _mm_mullo_epi32(x, y);
+}
+
+// Saturating 8/16-bit add and subtract: the plain case without widening.
+template <Op O, class P>
+inline __m128i vsat(__m128i x, __m128i y) {
+    if constexpr (O == Op::Sub) std::swap(x, y);
+    if constexpr (same<P, Zel8u>) return O == Op::Add ? _mm_adds_epu8(x, y) : _mm_subs_epu8(x, y);
+    if constexpr (same<P, Zel16u>) return O == Op::Add ? _mm_adds_epu16(x, y) : _mm_subs_epu16(x, y);
+    return O == Op::Add ? _mm_adds_epi16(x, y) : _mm_subs_epi16(x, y);
+}
+
+// ---- Operation objects ------------------------------------------------------
+// operator()(x, y, z) is the scalar form; vec(x, y, z) the vector form on 16
+// bytes when kVec. z is raised for a zero divisor.
+
+// Integer add, subtract, multiply with the scale rule of case C.
+template <Op O, class P, Sc C>
+struct IntOp {
+    using W = wide_t<O, P>;
+    using V = __m128i;
+    static constexpr bool kVec = sizeof(P) <= 2 && same<W, int>;
+    int n;
+    P operator()(P x, P y, int&) const { return scale<C, P>(raw<O, W>(x, y), n); }
+    // 8u on 16-bit lanes: sums and differences fit signed, products unsigned.
+    __m128i vec8(__m128i x, __m128i y) const {
+        const __m128i z = _mm_setzero_si128(), one = _mm_set1_epi16(1), max = _mm_set1_epi16(255);
+        if constexpr (O == Op::Mul) {
+            __m128i p = _mm_mullo_epi16(x, y);
+            if constexpr (C == Sc::One) p = _mm_srli_epi16(_mm_add_epi16(p, _mm_and_si128(_mm_srli_epi16(p, 1), one)), 1);
+            if constexpr (C == Sc::Neg) p = _mm_sll_epi16(_mm_min_epu16(p, max), _mm_cvtsi32_si128(-n));
+            if constexpr (C == Sc::Bound) p = _mm_andnot_si128(_mm_cmpeq_epi16(p, z), max);
+            return _mm_min_epu16(p, max);
+        } else {
+            __m128i s = O == Op::Add ? _mm_add_epi16(x, y) : O == Op::Sub ? _mm_max_epi16(_mm_sub_epi16(y, x), z)
+                                                                         : _mm_max_epi16(_mm_sub_epi16(x, y), z);
+            if constexpr (C == Sc::One) s = _mm_srai_epi16(_mm_add_epi16(s, _mm_and_si128(_mm_srai_epi16(s, 1), one)), 1);
+            if constexpr (C == Sc::Pos) {
+                const __m128i cnt = _mm_cvtsi32_si128(n), half = _mm_set1_epi16(short((1 << (n - 1)) - 1));
+                s = _mm_sra_epi16(_mm_add_epi16(_mm_add_epi16(s, half), _mm_and_si128(_mm_sra_epi16(s, cnt), one)), cnt);
+            }
+            if constexpr (C == Sc::Neg) s = _mm_sll_epi16(_mm_min_epi16(s, max), _mm_cvtsi32_si128(-n));
+            if constexpr (C == Sc::Bound) s = _mm_and_si128(_mm_cmpgt_epi16(s, z), max);
+            return s;
+        }
+    }
+    V vec(V x, V y, int&) const {
+        if constexpr (kVec) {
+            if constexpr (C == Sc::Plain && O != Op::Mul) {
+                return vsat<O, P>(x, y);
+            } else if constexpr (same<P, Zel8u> && !(O == Op::Mul && C == Sc::Pos)) {
+                const __m128i z = _mm_setzero_si128();
+                return _mm_packus_epi16(vec8(_mm_unpacklo_epi8(x, z), _mm_unpacklo_epi8(y, z)),
+                                        vec8(_mm_unpackhi_epi8(x, z), _mm_unpackhi_epi8(y, z)));
+            } else {
+                __m128i qx[4], qy[4];
+                Quads<P>::widen(x, qx);
+                Quads<P>::widen(y, qy);
+                for (int q = 0; q < Quads<P>::n; ++q) qx[q] = vscale<C, P>(vraw<O, P>(qx[q], qy[q]), n);
+                return Quads<P>::narrow(qx);
+            }
+        } else {
+            return x;
+        }
+    }
+};
+
+// IEEE single add, subtract, multiply in the current rounding mode.
+template <Op O>
+struct FloatOp {
+    using V = __m128;
+    static constexpr bool kVec = true;
+    Zel32f operator()(Zel32f x, Zel32f y, int&) const {
+        if constexpr (O == Op::Add) return x + y;
+        if constexpr (O == Op::Sub) return y - x;
+        if constexpr (O == Op::SubR) return x - y;
+        return x * y;
+    }
+    V vec(V x, V y, int&) const {
+        if constexpr (O == Op::Add) return _mm_add_ps(x, y);
+        if constexpr (O == Op::Sub) return _mm_sub_ps(y, x);
+        if constexpr (O == Op::SubR) return _mm_sub_ps(x, y);
+        return _mm_mul_ps(x, y);
+    }
+};
+
+// Product of two fractions of full scale: (p + 1 + (p >> bits)) >> bits.
+template <class P>
+struct MulScaleOp {
+    using V = __m128i;
+    static constexpr bool kVec = true;
+    static constexpr unsigned bits = sizeof(P) * 8;
+    P operator()(P x, P y, int&) const {
+        const unsigned p = unsigned(x) * unsigned(y);
+        return P((p + 1u + (p >> bits)) >> bits);
+    }
+    V vec(V x, V y, int&) const {
+        if constexpr (same<P, Zel8u>) {
+            const __m128i z = _mm_setzero_si128(), one = _mm_set1_epi16(1);
+            __m128i lo = _mm_mullo_epi16(_mm_unpacklo_epi8(x, z), _mm_unpacklo_epi8(y, z));
+            __m128i hi = _mm_mullo_epi16(_mm_unpackhi_epi8(x, z), _mm_unpackhi_epi8(y, z));
+            lo = _mm_srli_epi16(_mm_add_epi16(_mm_add_epi16(lo, one), _mm_srli_epi16(lo, 8)), 8);
+            hi = _mm_srli_epi16(_mm_add_epi16(_mm_add_epi16(hi, one), _mm_srli_epi16(hi, 8)), 8);
+            return _mm_packus_epi16(lo, hi);
+        } else {
+            __m128i qx[2], qy[2];
+            Quads<P>::widen(x, qx);
+            Quads<P>::widen(y, qy);
+            for (int q = 0; q < 2; ++q) {
+                const __m128i p = _mm_mullo_epi32(qx[q], qy[q]);
+                qx[q] = _mm_srli_epi32(_mm_add_epi32(_mm_add_epi32(p, _mm_set1_epi32(1)), _mm_srli_epi32(p, 16)), 16);
+            }
+            return Quads<P>::narrow(qx);
+        }
+    }
+};
+
+// Complex integer product with the scale rule on each part, exact in a wide type.
+template <class E, Sc C>
+struct CplxMulOp {
+    using P = typename Parts<E>::P;
+    using W = std::conditional_t<sizeof(P) == 2, long long, __int128>;
+    using V = __m128i;
+    static constexpr bool kVec = false;
+    int n;
+    E operator()(E x, E y, int&) const {
+        const W re = W(x.re) * y.re - W(x.im) * y.im, im = W(x.re) * y.im + W(x.im) * y.re;
+        return E{scale<C, P>(re, n), scale<C, P>(im, n)};
+    }
+    V vec(V x, V, int&) const { return x; }
+};
+
+// Complex single product, no special case for infinities or NaN.
+struct CplxMulFOp {
+    using V = __m128;
+    static constexpr bool kVec = false;
+    Zel32fc operator()(Zel32fc x, Zel32fc y, int&) const {
+        return Zel32fc{x.re * y.re - x.im * y.im, x.re * y.im + x.im * y.re};
+    }
+    V vec(V x, V, int&) const { return x; }
+};
+
+// ---- Row loop -----------------------------------------------------------------
+template <class V> inline V vload(const void* p);
+template <> inline __m128i vload<__m128i>(const void* p) { return _mm_loadu_si128(static_cast<const __m128i*>(p)); }
+template <> inline __m128 vload<__m128>(const void* p) { return _mm_loadu_ps(static_cast<const float*>(p)); }
+inline void vstore(void* p, __m128i v) { _mm_storeu_si128(static_cast<__m128i*>(p), v); }
+inline void vstore(void* p, __m128 v) { _mm_storeu_ps(static_cast<float*>(p), v); }
+
+constexpr int gcd_c(int a, int b) { return b == 0 ? a : gcd_c(b, a % b); }
+
+// A constant is passed to the row as a pattern: pattern[j] = value[j % PER],
+// long enough for any phase plus the widest round of registers.
+constexpr int kPattern = 96;
+template <class E>
+struct Pattern {
+    alignas(16) E v[kPattern];
+    Pattern(const E* values, int per) {
+        for (int j = 0; j < kPattern; ++j) v[j] = values[j % per];
+    }
+};
+
+// One row of `count` elements: scalar head up to an aligned destination,
+// vector body, scalar tail. With CONST, b is a pattern of period PER.
+template <class Op, class E, int PER, bool CONST>
+inline int row_run(const Op& op, const E* a, const E* b, E* d, int count) {
+    int z = 0, i = 0;
+    if constexpr (Op::kVec) {
+        using V = typename Op::V;
+        constexpr int lanes = 16 / int(sizeof(E));
+        // registers a round: a whole period of the constant pattern, or four
+        // independent ones for two images
+        constexpr int K = CONST ? PER / gcd_c(PER, lanes) : 4;
+        constexpr int step = K * lanes;
+        const std::uintptr_t addr = reinterpret_cast<std::uintptr_t>(d);
+        const int head = addr % sizeof(E) ? 0 : int((16 - addr % 16) % 16 / sizeof(E));
+        if (count >= 31 && count - head >= (CONST ? step : lanes)) {
+            for (; i < head; ++i) d[i] = op(a[i], CONST ? b[i % PER] : b[i], z);
+            V c[K];
+            if constexpr (CONST)
+                for (int k = 0; k < K; ++k) c[k] = vload<V>(b + head % PER + k * lanes);
+            for (; i + step <= count; i += step)
+                for (int k = 0; k < K; ++k) {
+                    const int j = i + k * lanes;
+                    vstore(d + j, op.vec(vload<V>(a + j), CONST ? c[k] : vload<V>(b + j), z));
+                }
+            if constexpr (!CONST)
+                for (; i + lanes <= count; i += lanes) vstore(d + i, op.vec(vload<V>(a + i), vload<V>(b + i), z));
+        }
+    }
+    for (; i < count; ++i) d[i] = op(a[i], CONST ? b[i % PER] : b[i], z);
+    return z;
+}
+
+// Alpha forms: SP elements a pixel, the first AP of them worked, the rest of
+// the destination pixel neither read nor written.
+template <class Op, class E, int SP, int AP, bool CONST>
+inline int row_alpha(const Op& op, const E* a, const E* b, E* d, int width) {
+    int z = 0;
+    for (int x = 0; x < width; ++x, a += SP, d += SP) {
+        for (int c = 0; c < AP; ++c) d[c] = op(a[c], CONST ? b[c] : b[c], z);
+        if constexpr (!CONST) b += SP;
+    }
+    return z;
+}
+
+template <class Op, class E, int SP, int AP, bool CONST>
+inline int row_any(const Op& op, const E* a, const E* b, E* d, int width) {
+    if constexpr (AP < SP) return row_alpha<Op, E, SP, AP, CONST>(op, a, b, d, width);
+    else return row_run<Op, E, SP, CONST>(op, a, b, d, width * SP);
+}
+
+// Fills the worked elements of each pixel with vals[0..AP).
+template <class E, int SP, int AP>
+inline void fill_rows(E* d, int ds, int w, int h, const E* vals) {
+    for (int r = 0; r < h; ++r) {
+        E* p = row(d, ds, r);
+        for (int x = 0; x < w; ++x, p += SP)
+            for (int c = 0; c < AP; ++c) p[c] = vals[c];
+    }
+}
+
+// Copies the worked elements of each pixel.
+template <class E, int SP, int AP>
+inline void copy_rows(const E* s, int ss, E* d, int ds, int w, int h) {
+    if (s == d && ss == ds) return;
+    for (int r = 0; r < h; ++r) {
+        const E* q = row(s, ss, r);
+        E* p = row(d, ds, r);
+        if constexpr (AP == SP) {
+            std::memcpy(p, q, std::size_t(w) * SP * sizeof(E));
+        } else {
+            for (int x = 0; x < w; ++x, p += SP, q += SP)
+                for (int c = 0; c < AP; ++c) p[c] = q[c];
+        }
+    }
+}
+
+// Rows of an image through one operation, in the rows frame.
+template <class Op, class E, int SP, int AP, bool CONST>
+inline void run_rows(const Op& op, const E* a, int as, const E* b, int bs, E* d, int ds, int w, int h, bool fork) {
+    rows_frame(h, fork, [&](int r0, int r1) {
+        for (int r = r0; r < r1; ++r)
+            row_any<Op, E, SP, AP, CONST>(op, row(a, as, r), CONST ? b : row(b, bs, r), row(d, ds, r), w);
+    });
+}
+
+// ---- Thread gates -----------------------------------------------------------------
+// -1: the calling thread only; 0: always a team; g > 0: a team when width plus
+// height is at least g. Folded C3 and C4 calls arrive here as C1.
+template <Op O, class E, Layout L, bool CONST, bool IP>
+inline int gate(Sc c) {
+    constexpr bool u8 = same<E, Zel8u>, s16 = same<E, Zel16s>, f32 = same<E, Zel32f>;
+    const bool one = c == Sc::One, pos = c == Sc::Pos, plain = c == Sc::Plain;
+    if (!(u8 || s16 || f32)) return -1;
+    if constexpr (!CONST) {
+        if (L != C1) return -1;
+        if constexpr (O == Op::Add || O == Op::Sub) {
+            if (f32) return IP ? 0 : 256;
+            if (u8) return IP && pos ? 256 : 0;
+            if (!IP) return plain || one || pos ? 256 : 0;
+            if (O == Op::Add) return 0;
+            return one ? 256 : pos ? 128 : 0;
+        }
+        if constexpr (O == Op::Mul) {
+            if (f32) return 0;
+            if (u8) return IP ? (one || pos ? 256 : 0) : (pos ? 256 : one ? 128 : 0);
+            return IP ? (one ? 256 : 0) : (one || pos ? 128 : 0);
+        }
+        return -1;
+    } else {
+        if (L == AC4) return f32 && IP ? 0 : -1;
+        if (L == C4) return -1;
+        if (L == C3) return 0;
+        if constexpr (O == Op::Add || O == Op::SubR) {
+            if (f32) return IP ? 0 : 256;
+            if (u8) return IP && (one || pos) ? 256 : 0;
+            if (!IP) return plain || one || pos ? 256 : 0;
+            if (O == Op::Add) return one || pos ? 256 : 0;
+            return one ? 256 : 0;
+        }
+        if constexpr (O == Op::Mul) {
+            if (f32) return 0;
+            if (u8) return IP && pos ? 128 : 0;
+            return IP && (one || pos) ? 256 : 0;
+        }
+        return -1;
+    }
+}
+
+inline bool fork_by(int g, ZeliSize roi) { return g == 0 || (g > 0 && roi.width + roi.height >= g); }
+
+// ---- Entry: add, subtract, multiply ------------------------------------------------
+// Runs operation Op over the image with the element type E and pixel shape.
+template <class Op, class E, int SP, int AP, bool CONST>
+inline void apply(const Op& op, const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSize roi, bool fork) {
+    if constexpr (CONST) {
+        if constexpr (AP < SP) {
+            run_rows<Op, E, SP, AP, true>(op, a, as, b, bs, d, ds, roi.width, roi.height, fork);
+        } else {
+            const Pattern<E> pat(b, SP);
+            run_rows<Op, E, SP, AP, true>(op, a, as, pat.v, bs, d, ds, roi.width, roi.height, fork);
+        }
+    } else {
+        run_rows<Op, E, SP, AP, false>(op, a, as, b, bs, d, ds, roi.width, roi.height, fork);
+    }
+}
+
+template <Op O, class E, Layout L, bool CONST, bool IP>
+ZelStatus sfs_entry(const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSize roi, int n) {
+    using T = Parts<E>;
+    using P = typename T::P;
+    // C3 and C4 forms look at the width first: they fold the channels into it.
+    if constexpr ((L == C3 || L == C4) && !(T::complex && CONST))
+        if (roi.width < 1) return zelStatusBadSize;
+    if (any_null(a, b, d)) return zelStatusNullPointer;
+    if (bad_size(roi)) return zelStatusBadSize;
+    if constexpr (T::complex)
+        if (CONST ? any_bad_step(as, ds) : any_bad_step(as, bs, ds)) return zelStatusBadStep;
+
+    constexpr bool partwise = O != Op::Mul || !T::complex;
+    constexpr int k = partwise ? T::k : 1;
+    constexpr int SP = channels(L) * k, AP = active(L) * k;
+    // Binary C3 and C4 forms are the C1 form on a row of width times channels.
+    constexpr Layout GL = (!CONST && (L == C3 || L == C4)) ? C1 : L;
+
+    if constexpr (is_f<P>) {
+        const bool fork = fork_by(gate<O, E, GL, CONST, IP>(Sc::Plain), roi);
+        if constexpr (partwise)
+            apply<FloatOp<O>, P, SP, AP, CONST>(FloatOp<O>{}, reinterpret_cast<const P*>(a), as,
+                                                reinterpret_cast<const P*>(b), bs, reinterpret_cast<P*>(d), ds, roi, fork);
+        else
+            apply<CplxMulFOp, E, SP, AP, CONST>(CplxMulFOp{}, a, as, b, bs, d, ds, roi, fork);
+        return zelStatusOk;
+    } else {
+        using EW = std::conditional_t<partwise, P, E>;
+        const EW* wa = reinterpret_cast<const EW*>(a);
+        const EW* wb = reinterpret_cast<const EW*>(b);
+        EW* wd = reinterpret_cast<EW*>(d);
+        const Sc c = scale_case<O, E>(n);
+        if (c == Sc::Zero) {
+            const EW zero[8] = {};
+            fill_rows<EW, SP, AP>(wd, ds, roi.width, roi.height, zero);
+            return zelStatusOk;
+        }
+        if constexpr (CONST && !T::complex) {
+            // Constant shortcuts: a copy or a fill gives the same pixels.
+            bool all0 = true, all1 = true;
+            for (int i = 0; i < active(L); ++i) all0 &= b[i] == 0, all1 &= b[i] == 1;
+            if (n == 0 && ((all0 && O != Op::Mul) || (all1 && O == Op::Mul))) {
+                copy_rows<E, SP, AP>(a, as, d, ds, roi.width, roi.height);
+                return zelStatusOk;
+            }
+            if (all0 && O == Op::Mul) {
+                const E zero[4] = {};
+                fill_rows<E, SP, AP>(d, ds, roi.width, roi.height, zero);
+                return zelStatusOk;
+            }
+            bool none0 = true;
+            for (int i = 0; i < active(L); ++i) none0 &= b[i] != 0;
+            if (O == Op::Add && same<E, Zel16u> && n < -15 && none0) {
+                const E m = std::numeric_limits<E>::max(), full[4] = {m, m, m, m};
+                fill_rows<E, SP, AP>(d, ds, roi.width, roi.height, full);
+                return zelStatusOk;
+            }
+        }
+        const bool fork = fork_by(gate<O, E, GL, CONST, IP>(c), roi);
+        auto go = [&](auto tag) {
+            constexpr Sc C = decltype(tag)::value;
+            if constexpr (partwise)
+                apply<IntOp<O, P, C>, EW, SP, AP, CONST>(IntOp<O, P, C>{n}, wa, as, wb, bs, wd, ds, roi, fork);
+            else
+                apply<CplxMulOp<E, C>, EW, SP, AP, CONST>(CplxMulOp<E, C>{n}, wa, as, wb, bs, wd, ds, roi, fork);
+        };
+        switch (c) {
+        case Sc::Plain: go(std::integral_constant<Sc, Sc::Plain>{}); break;
+        case Sc::One: go(std::integral_constant<Sc, Sc::One>{}); break;
+        case Sc::Pos: go(std::integral_constant<Sc, Sc::Pos>{}); break;
+        case Sc::Neg: go(std::integral_constant<Sc, Sc::Neg>{}); break;
+        default: go(std::integral_constant<Sc, Sc::Bound>{}); break;
+        }
+        return zelStatusOk;
+    }
+}
+
+// Products of fractions of full scale: null, step, then size.
+template <class E, Layout L, bool CONST>
+ZelStatus mulscale_entry(const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSize roi) {
+    if (any_null(a, b, d)) return zelStatusNullPointer;
+    if (CONST ? any_bad_step(as, ds) : any_bad_step(as, bs, ds)) return zelStatusBadStep;
+    if (bad_size(roi)) return zelStatusBadSize;
+    constexpr int SP = channels(L), AP = active(L);
+    apply<MulScaleOp<E>, E, SP, AP, CONST>(MulScaleOp<E>{}, a, as, b, bs, d, ds, roi, false);
+    return zelStatusOk;
+}
+
+// ---- Entry shapes of the exported names -----------------------------------------
+// All forms reach run(): a is the first source (or the image of a constant
+// form), b the second source or the constant values, d the destination.
+// The round mode argument of the forms that take none.
+constexpr int kNoRound = std::numeric_limits<int>::min();
+
+template <Op O, class E, Layout L, bool CONST, bool IP>
+ZelStatus div_entry(const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSize roi, int n, int mode);
+
+template <Op O, class E, Layout L, bool CONST, bool IP>
+ZelStatus run(const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSize roi, int n, int mode) {
+    if constexpr (O == Op::Div || O == Op::DivR) return div_entry<O, E, L, CONST, IP>(a, as, b, bs, d, ds, roi, n, mode);
+    else if constexpr (O == Op::MulScale) return mulscale_entry<E, L, CONST>(a, as, b, bs, d, ds, roi);
+    else return sfs_entry<O, E, L, CONST, IP>(a, as, b, bs, d, ds, roi, n);
+}
+
+template <Op O, class E, Layout L>
+ZelStatus bin(const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSize roi, int n) {
+    return run<O, E, L, false, false>(a, as, b, bs, d, ds, roi, n, kNoRound);
+}
+template <Op O, class E, Layout L>
+ZelStatus bin_i(const E* a, int as, E* sd, int sds, ZeliSize roi, int n) {
+    return run<O, E, L, false, true>(a, as, sd, sds, sd, sds, roi, n, kNoRound);
+}
+template <Op O, class E, Layout L>
+ZelStatus bin_f(const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSize roi) {
+    return run<O, E, L, false, false>(a, as, b, bs, d, ds, roi, 0, kNoRound);
+}
+template <Op O, class E, Layout L>
+ZelStatus bin_fi(const E* a, int as, E* sd, int sds, ZeliSize roi) {
+    return run<O, E, L, false, true>(a, as, sd, sds, sd, sds, roi, 0, kNoRound);
+}
+template <Op O, class E, Layout L>
+ZelStatus rnd(const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSize roi, ZelRoundMode mode, int n) {
+    return run<O, E, L, false, false>(a, as, b, bs, d, ds, roi, n, mode);
+}
+template <Op O, class E, Layout L>
+ZelStatus rnd_i(const E* a, int as, E* sd, int sds, ZeliSize roi, ZelRoundMode mode, int n) {
+    return run<O, E, L, false, true>(a, as, sd, sds, sd, sds, roi, n, mode);
+}
+template <Op O, class E, Layout L>
+ZelStatus cst(const E* s, int ss, const E* v, E* d, int ds, ZeliSize roi, int n) {
+    return run<O, E, L, true, false>(s, ss, v, 0, d, ds, roi, n, kNoRound);
+}
+template <Op O, class E, Layout L>
+ZelStatus cst_i(const E* v, E* sd, int sds, ZeliSize roi, int n) {
+    return run<O, E, L, true, true>(sd, sds, v, 0, sd, sds, roi, n, kNoRound);
+}
+template <Op O, class E, Layout L>
+ZelStatus cst_f(const E* s, int ss, const E* v, E* d, int ds, ZeliSize roi) {
+    return run<O, E, L, true, false>(s, ss, v, 0, d, ds, roi, 0, kNoRound);
+}
+template <Op O, class E, Layout L>
+ZelStatus cst_fi(const E* v, E* sd, int sds, ZeliSize roi) {
+    return run<O, E, L, true, true>(sd, sds, v, 0, sd, sds, roi, 0, kNoRound);
+}
+template <Op O, class E, Layout L>
+ZelStatus cst1(const E* s, int ss, E v, E* d, int ds, ZeliSize roi, int n) { return cst<O, E, L>(s, ss, &v, d, ds, roi, n); }
+template <Op O, class E, Layout L>
+ZelStatus cst1_i(E v, E* sd, int sds, ZeliSize roi, int n) { return cst_i<O, E, L>(&v, sd, sds, roi, n); }
+template <Op O, class E, Layout L>
+ZelStatus cst1_f(const E* s, int ss, E v, E* d, int ds, ZeliSize roi) { return cst_f<O, E, L>(s, ss, &v, d, ds, roi); }
+template <Op O, class E, Layout L>
+ZelStatus cst1_fi(E v, E* sd, int sds, ZeliSize roi) { return cst_fi<O, E, L>(&v, sd, sds, roi); }
+
+} // namespace zel

@@ -267,17 +267,39 @@ struct MulScaleOp {
     }
 };
 
-// Complex integer product with the scale rule on each part, exact in a wide type.
+// The scale rule on the exact sum a + b of two 64-bit values, which itself may
+// need 65 bits: the floor quotients and the remainders of the two terms are
+// added separately, so no wider type is needed (32-bit targets have none).
+template <Sc C, class P>
+inline P scale_sum(long long a, long long b, int n) {
+    if constexpr (C == Sc::One || C == Sc::Pos) {
+        const int k = C == Sc::One ? 1 : n;
+        const unsigned long long m = (1ull << k) - 1, half = 1ull << (k - 1);
+        long long q = (a >> k) + (b >> k);
+        unsigned long long r = (static_cast<unsigned long long>(a) & m) + (static_cast<unsigned long long>(b) & m);
+        q += static_cast<long long>(r >> k);
+        r &= m;
+        if (r > half || (r == half && (q & 1))) ++q;
+        return P(clampw<P>(q));
+    } else {
+        long long s; // saturating: only its sign and whether it exceeds P matter
+        if (__builtin_add_overflow(a, b, &s)) s = a > 0 ? std::numeric_limits<long long>::max() : std::numeric_limits<long long>::min();
+        return scale<C, P>(s, n);
+    }
+}
+
+// Complex integer product with the scale rule on each part, exact: each part
+// is the sum of two products that fit 64 bits.
 template <class E, Sc C>
 struct CplxMulOp {
     using P = typename Parts<E>::P;
-    using W = std::conditional_t<sizeof(P) == 2, long long, __int128>;
     using V = __m128i;
     static constexpr bool kVec = false;
     int n;
     E operator()(E x, E y, int&) const {
-        const W re = W(x.re) * y.re - W(x.im) * y.im, im = W(x.re) * y.im + W(x.im) * y.re;
-        return E{scale<C, P>(re, n), scale<C, P>(im, n)};
+        using W = long long;
+        return E{scale_sum<C, P>(W(x.re) * y.re, -(W(x.im) * y.im), n),
+                 scale_sum<C, P>(W(x.re) * y.im, W(x.im) * y.re, n)};
     }
     V vec(V x, V, int&) const { return x; }
 };

@@ -32,18 +32,22 @@ enum class Dc { In, Below, Above };
 
 // Integer quotient of P. REV: x / y (constant and in-place-free forms), else
 // y / x. CST: the divisor is a non-zero constant, whose float reciprocal
-// multiplies the dividend.
+// multiplies the dividend. A vector block of divisors holding a zero takes true
+// float division for its other lanes instead of the refined reciprocal.
 template <class P, int R, Dc D, bool REV, bool CST>
 struct IntDivOp {
     using V = __m128i;
     static constexpr bool kVec = true;
     __m128 f; // two to the minus n
-    __m128i quad(__m128i num, __m128i den, int& z) const {
+    // exact: the block holds a zero divisor, so the others divide truly
+    __m128i quad(__m128i num, __m128i den, int& z, bool exact) const {
         __m128i res;
         if constexpr (D == Dc::In) {
             __m128 q;
             if constexpr (CST) // the constant's reciprocal, prepared in float, scaled exactly
                 q = _mm_mul_ps(_mm_cvtepi32_ps(num), _mm_mul_ps(f, _mm_div_ps(_mm_set1_ps(1.0f), _mm_cvtepi32_ps(den))));
+            else if (exact)
+                q = _mm_div_ps(_mm_mul_ps(_mm_cvtepi32_ps(num), f), _mm_cvtepi32_ps(den));
             else
                 q = refined_div(_mm_mul_ps(_mm_cvtepi32_ps(num), f), _mm_cvtepi32_ps(den));
             q = _mm_min_ps(_mm_max_ps(q, _mm_set1_ps(float(std::numeric_limits<P>::min()))),
@@ -65,37 +69,70 @@ struct IntDivOp {
     }
     P operator()(P x, P y, int& z) const {
         const __m128i vx = _mm_set1_epi32(x), vy = _mm_set1_epi32(y);
-        return P(_mm_cvtsi128_si32(REV ? quad(vx, vy, z) : quad(vy, vx, z)));
+        return P(_mm_cvtsi128_si32(REV ? quad(vx, vy, z, false) : quad(vy, vx, z, false)));
     }
     V vec(V x, V y, int& z) const {
         __m128i qx[4], qy[4];
+        const V den = REV ? y : x;
+        const __m128i zeros = sizeof(P) == 1 ? _mm_cmpeq_epi8(den, _mm_setzero_si128()) : _mm_cmpeq_epi16(den, _mm_setzero_si128());
+        const bool exact = !CST && _mm_movemask_epi8(zeros) != 0;
         Quads<P>::widen(x, qx);
         Quads<P>::widen(y, qy);
-        for (int q = 0; q < Quads<P>::n; ++q) qx[q] = REV ? quad(qx[q], qy[q], z) : quad(qy[q], qx[q], z);
+        for (int q = 0; q < Quads<P>::n; ++q) qx[q] = REV ? quad(qx[q], qy[q], z, exact) : quad(qy[q], qx[q], z, exact);
         return Quads<P>::narrow(qx);
     }
 };
 
-// Single-precision quotient by the refined reciprocal. A zero divisor gives
-// +inf, -inf by the dividend's sign, NaN for a zero (or NaN) dividend.
+// One single-precision quotient by true division. A zero divisor (of either
+// sign) gives +inf or -inf by the dividend's sign, NaN for a zero or NaN
+// dividend, and counts in z.
+inline float div_lane(float a, float b, int& z) {
+    if (b == 0.0f) {
+        z = 1;
+        constexpr float inf = std::numeric_limits<float>::infinity();
+        return a > 0.0f ? inf : a < 0.0f ? -inf : std::numeric_limits<float>::quiet_NaN();
+    }
+    return a / b;
+}
+
+// A block of W single-precision quotients d = y / x: the refined reciprocal
+// when no divisor of the block is zero, else lane by lane by true division.
+template <int W>
+inline void div32f_block(const float* x, const float* y, float* d, int& z) {
+    __m128 b[W / 4];
+    int zero = 0;
+    for (int k = 0; k < W / 4; ++k) {
+        b[k] = _mm_loadu_ps(x + 4 * k);
+        zero |= _mm_movemask_ps(_mm_cmpeq_ps(b[k], _mm_setzero_ps()));
+    }
+    if (!zero) {
+        __m128 q[W / 4];
+        for (int k = 0; k < W / 4; ++k) q[k] = refined_div(_mm_loadu_ps(y + 4 * k), b[k]);
+        for (int k = 0; k < W / 4; ++k) _mm_storeu_ps(d + 4 * k, q[k]);
+    } else {
+        for (int j = 0; j < W; ++j) d[j] = div_lane(y[j], x[j], z);
+    }
+}
+
+// Single-precision quotient of two images: blocks of eight from the start of
+// the run, a block of four for a tail of four to seven, true division for the
+// last up to three. Which samples take the refined reciprocal therefore
+// depends only on their place in the run, not on alignment.
 struct F32DivOp {
     using V = __m128;
     static constexpr bool kVec = true;
-    V vec(V x, V y, int& z) const {
-        const __m128 zero = _mm_setzero_ps();
-        __m128 r = refined_div(y, x);
-        const __m128 zm = _mm_cmpeq_ps(x, zero);
-        if (_mm_movemask_ps(zm)) {
-            z = 1;
-            const __m128 inf = _mm_set1_ps(std::numeric_limits<float>::infinity());
-            __m128 zv = _mm_set1_ps(std::numeric_limits<float>::quiet_NaN());
-            zv = _mm_blendv_ps(zv, _mm_sub_ps(zero, inf), _mm_cmplt_ps(y, zero));
-            zv = _mm_blendv_ps(zv, inf, _mm_cmpgt_ps(y, zero));
-            r = _mm_blendv_ps(r, zv, zm);
+    Zel32f operator()(Zel32f x, Zel32f y, int& z) const { return div_lane(y, x, z); }
+    V vec(V x, V, int&) const { return x; } // the run below is used instead
+    static int run(const float* x, const float* y, float* d, int n) {
+        int z = 0, i = 0;
+        for (; i + 8 <= n; i += 8) div32f_block<8>(x + i, y + i, d + i, z);
+        if (n - i >= 4) {
+            div32f_block<4>(x + i, y + i, d + i, z);
+            i += 4;
         }
-        return r;
+        for (; i < n; ++i) d[i] = div_lane(y[i], x[i], z);
+        return z;
     }
-    Zel32f operator()(Zel32f x, Zel32f y, int& z) const { return _mm_cvtss_f32(vec(_mm_set1_ps(x), _mm_set1_ps(y), z)); }
 };
 
 // Single-precision quotient by a non-zero constant: the IEEE division.
@@ -152,6 +189,10 @@ template <class Op, class E, int SP, int AP, bool CONST>
 int div_rows(const Op& op, const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSize roi, int splitFrom, bool bands) {
     const int w = roi.width, h = roi.height, threads = thread_count();
     const unsigned mode = _mm_getcsr() & kRoundField; // workers round as the caller does
+    auto run = [&](const E* x, const E* y, E* dst, int n) -> int {
+        if constexpr (std::is_same<Op, F32DivOp>::value) return Op::run(x, y, dst, n);
+        else return row_run<Op, E, SP, CONST>(op, x, y, dst, n);
+    };
     auto one_row = [&](int r) -> int {
         const E* ra = row(a, as, r);
         const E* rb = CONST ? b : row(b, bs, r);
@@ -163,9 +204,9 @@ int div_rows(const Op& op, const E* a, int as, const E* b, int bs, E* d, int ds,
             if (splitFrom > 0 && threads > 1 && count >= splitFrom && count >= threads)
                 return bands_frame(count, threads < 2 ? threads : 2, [&](int first, int n, int) {
                     const RoundingScope rs(mode);
-                    return row_run<Op, E, SP, CONST>(op, ra + first, CONST ? rb + first % SP : rb + first, rd + first, n);
+                    return run(ra + first, CONST ? rb + first % SP : rb + first, rd + first, n);
                 });
-            return row_run<Op, E, SP, CONST>(op, ra, rb, rd, count);
+            return run(ra, rb, rd, count);
         }
     };
     if (bands && threads > 1 && w >= 128 && h >= 128)

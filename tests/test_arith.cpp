@@ -51,6 +51,7 @@ struct Ref {
     R op;
     int mode = -1;
     bool complex = false;
+    bool exact = false; // true division where a block of divisors holds a zero
     // returns true when the divisor was zero
     bool operator()(const P* x, const P* y, P* o, int n, int k) const {
         if (!complex && k == 2) return one(x, y, o, n) | one(x + 1, y + 1, o + 1, n);
@@ -91,7 +92,7 @@ struct Ref {
                 o[0] = a > 0 ? INFINITY : a < 0 ? -INFINITY : NAN;
                 return true;
             }
-            o[0] = rdiv(a, b);
+            o[0] = exact ? a / b : rdiv(a, b);
             return false;
         }
         }
@@ -143,7 +144,9 @@ struct Ref {
         if (n < lo) { o[0] = sat<P>(sgn(a) * sgn(b) * (i128(1) << 40)); return false; }
         if (n > hi) { o[0] = 0; return false; }
         const float p2 = std::ldexp(1.0f, -n);
-        float q = op == R::DivC ? float(a) * (p2 * (1.0f / float(b))) : rdiv(float(a) * p2, float(b));
+        float q = op == R::DivC ? float(a) * (p2 * (1.0f / float(b)))
+                  : exact         ? float(a) * p2 / float(b)
+                                  : rdiv(float(a) * p2, float(b));
         const float fl = float(std::numeric_limits<P>::min()), fh = float(std::numeric_limits<P>::max());
         q = q < fl ? fl : q > fh ? fh : q;
         double v = mode == 0 ? std::trunc(q) : mode == 2 ? std::round(q) : std::nearbyint(q);
@@ -231,18 +234,26 @@ void check_bin(const std::string& name, Shape s, const BinCall<P>& call, const B
                     for (int x = 0; x < sz.w; ++x)
                         for (int c = 0; c < s.ch; ++c) {
                             const int i = (x * s.ch + c) * s.k;
-                            P o[2];
+                            P o[2], alt[2];
                             const P* da = a.row(y) + i;
                             const P* db = b.row(y) + i;
                             for (int p = 0; p < s.k; ++p) {
                                 if (c < s.act) {
-                                    if (p == 0) zero |= ref(da, db, o, n, s.k);
+                                    if (p == 0) {
+                                        zero |= ref(da, db, o, n, s.k);
+                                        // a quotient may take true division when its
+                                        // block of divisors holds a zero; the exact
+                                        // blocks are checked in Div.BlocksOfQuotients
+                                        Ref<P> ex = ref;
+                                        ex.exact = ref.op == R::Div && !ref.complex;
+                                        ex(da, db, alt, n, s.k);
+                                    }
                                 } else {
-                                    o[p] = reinterpret_cast<const P*>(before.data() + std::size_t(y) * d.step())[i + p];
+                                    o[p] = alt[p] = reinterpret_cast<const P*>(before.data() + std::size_t(y) * d.step())[i + p];
                                 }
-                                const P want = c < s.act ? o[p] : o[p];
-                                if (!same_bits(d.row(y)[i + p], want) ||
-                                    !same_bits(ib.row(y)[i + p], c < s.act ? want : b.row(y)[i + p])) {
+                                const P want = o[p];
+                                auto ok = [&](P got, P w) { return same_bits(got, w) || (c < s.act && same_bits(got, alt[p])); };
+                                if (!ok(d.row(y)[i + p], want) || !ok(ib.row(y)[i + p], c < s.act ? want : b.row(y)[i + p])) {
                                     ADD_FAILURE() << name << " w=" << sz.w << " h=" << sz.h << " n=" << n << " threads=" << threads
                                                   << " at x=" << x << " y=" << y << " c=" << c << " part=" << p << ": a="
                                                   << double(da[p]) << " b=" << double(db[p]) << " got " << double(d.row(y)[i + p])
@@ -623,4 +634,79 @@ TEST(Div, ZeroDivisorPlacement) {
     for (int x = 0; x < 5; ++x)
         for (int c = 0; c < 4; ++c) a.at(x, 0, c) = c == 3 ? 0 : 2, b.at(x, 0, c) = 8;
     EXPECT_EQ(zeliDiv_16s_AC4RSfs(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), a.size(), 0), zelStatusOk);
+}
+
+// Single-precision quotients run in blocks of eight from the start of a run,
+// then a block of four, then single samples; a block with a zero divisor and
+// the single samples take true division, the other blocks the refined
+// reciprocal. A row of 4096 samples or more is split into two halves at two
+// threads, each half a run of its own.
+namespace {
+
+void ref_div32f_run(const float* x, const float* y, float* d, int n) {
+    auto lane = [](float a, float b) {
+        if (b == 0.0f) return a > 0 ? INFINITY : a < 0 ? -INFINITY : NAN;
+        return a / b;
+    };
+    int i = 0;
+    for (int w : {8, 4}) {
+        for (; i + w <= n; i += w) {
+            bool zero = false;
+            for (int j = 0; j < w; ++j) zero |= x[i + j] == 0.0f;
+            for (int j = 0; j < w; ++j) d[i + j] = zero ? lane(y[i + j], x[i + j]) : Ref<float>::rdiv(y[i + j], x[i + j]);
+            if (w == 4) { i += 4; break; }
+        }
+    }
+    for (; i < n; ++i) d[i] = lane(y[i], x[i]);
+}
+
+} // namespace
+
+TEST(Div, BlocksOfQuotients) {
+    std::mt19937 rng(11);
+    for (int threads : {1, 2}) {
+        zelSetNumThreads(threads);
+        for (int w : {1, 3, 4, 5, 7, 8, 9, 11, 12, 15, 16, 17, 31, 33, 100, 1365, 1366, 4095, 4096, 4097, 5003}) {
+            for (int ch : {1, 3, 4}) {
+                const int count = w * ch;
+                zt::Image<float> a(w, 2, ch, 4, zt::Flush::Tail, 4), b(w, 2, ch), d(w, 2, ch), ib(w, 2, ch);
+                for (int y = 0; y < 2; ++y)
+                    for (int i = 0; i < count; ++i) {
+                        // quotients with many non-exact results, zeros now and then
+                        a.row(y)[i] = rng() % 13 == 0 ? 0.0f : float(int(rng() % 2001) - 1000) / 7.0f + 0.01f;
+                        b.row(y)[i] = float(int(rng() % 20001) - 10000) / 3.0f;
+                        ib.row(y)[i] = b.row(y)[i];
+                    }
+                ZelStatus st, sti;
+                const ZeliSize r = {w, 2};
+                if (ch == 1) {
+                    st = zeliDiv_32f_C1R(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), r);
+                    sti = zeliDiv_32f_C1IR(a.ptr(), a.step(), ib.ptr(), ib.step(), r);
+                } else if (ch == 3) {
+                    st = zeliDiv_32f_C3R(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), r);
+                    sti = zeliDiv_32f_C3IR(a.ptr(), a.step(), ib.ptr(), ib.step(), r);
+                } else {
+                    st = zeliDiv_32f_C4R(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), r);
+                    sti = zeliDiv_32f_C4IR(a.ptr(), a.step(), ib.ptr(), ib.step(), r);
+                }
+                bool zero = false;
+                for (int y = 0; y < 2; ++y) {
+                    std::vector<float> want(count);
+                    const int half = threads > 1 && count >= 4096 ? count / 2 : count;
+                    ref_div32f_run(a.row(y), b.row(y), want.data(), half);
+                    ref_div32f_run(a.row(y) + half, b.row(y) + half, want.data() + half, count - half);
+                    for (int i = 0; i < count; ++i) {
+                        zero |= a.row(y)[i] == 0.0f;
+                        ASSERT_TRUE(same_bits(d.row(y)[i], want[i]) && same_bits(ib.row(y)[i], want[i]))
+                            << "threads " << threads << " w " << w << " ch " << ch << " at " << i << ": " << b.row(y)[i]
+                            << " / " << a.row(y)[i] << " got " << d.row(y)[i] << " / " << ib.row(y)[i] << " want " << want[i];
+                    }
+                }
+                const ZelStatus ws = zero ? zelStatusDivisionByZeroWarning : zelStatusOk;
+                ASSERT_EQ(st, ws);
+                ASSERT_EQ(sti, ws);
+            }
+        }
+    }
+    zelSetNumThreads(0);
 }

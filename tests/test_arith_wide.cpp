@@ -14,7 +14,7 @@ Zel32s ref_scale(__int128 s, int n) {
     if (n > 63) return 0;
     if (n <= -32) return s > 0 ? INT32_MAX : s < 0 ? INT32_MIN : 0;
     if (n > 0) {
-        const __int128 q = s >> n, r = s - (q << n), half = __int128(1) << (n - 1);
+        const __int128 unit = __int128(1) << n, q = s >> n, r = s - q * unit, half = unit / 2;
         s = (r > half || (r == half && (q & 1))) ? q + 1 : q;
     } else if (n < 0) {
         s = s < INT32_MIN ? INT32_MIN : s > INT32_MAX ? INT32_MAX : s;

@@ -6,6 +6,8 @@
 
 #include "core/frame.hpp"
 
+#include <cpuid.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -158,8 +160,39 @@ inline u8* fill_rounds(u8* d, std::size_t& n, __m128i r0, __m128i r1, __m128i r2
     return d;
 }
 
+// Whether the processor has fast string moves (the ERMS flag): a forward
+// `rep movsb` then streams whole lines without reading them first.
+inline bool fast_strings() {
+    static const bool has = [] {
+        if (__get_cpuid_max(0, nullptr) < 7) return false;
+        unsigned a, b, c, d;
+        __cpuid_count(7, 0, a, b, c, d);
+        return ((b >> 9) & 1u) != 0;
+    }();
+    return has;
+}
+
+// Forward byte copy of n bytes by `rep movsb`; source and destination may
+// overlap with the source first, each byte is read after the ones before it
+// are written, which repeats a pattern written just before the destination.
+inline void forward_string_copy(u8* d, const u8* s, std::size_t n) {
+    asm volatile("rep movsb" : "+D"(d), "+S"(s), "+c"(n) : : "memory");
+}
+
+// Long cached rows: the first kSeedBytes (a multiple of both periods, above
+// the 4 KiB aliasing distance) get the pattern, a forward string copy at that
+// distance repeats it over the rest of the row.
+constexpr std::size_t kSeedBytes = 6144;
+constexpr std::size_t kStringFillFrom = std::size_t(1) << 18;
+
 template <int P>
 inline void fill_row_p(u8* d, std::size_t n, const u8* buf, bool nt) {
+    static_assert(kSeedBytes % P == 0, "the seed must hold whole periods");
+    if (!nt && n >= kStringFillFrom && fast_strings()) {
+        fill_row_p<P>(d, kSeedBytes, buf, false);
+        forward_string_copy(d + kSeedBytes, d, n - kSeedBytes);
+        return;
+    }
     if (n < 64) {
         std::size_t i = 0;
         for (; i + 16 <= n; i += 16) stu(d + i, ld(buf + i % P));

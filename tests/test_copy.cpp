@@ -418,4 +418,28 @@ TEST(Copy, NonTemporalPathsGiveTheSameBytes) {
     }
 }
 
+// Long contiguous images fold into one row that is filled by repeating a seed
+// of the pattern; every byte up to the guard page must hold the pattern, for
+// both pattern periods and at unaligned starts.
+TEST(Copy, LongRowFills) {
+    for (std::size_t offset : {0, 4, 12}) {
+        for (int w : {87382, 100003}) { // 3 and 12 bytes a pixel: above 256 KiB, odd remainders
+            zt::Image<u8> d8(w, 2, 3, 0, zt::Flush::Tail, offset);
+            const Zel8u v3[3] = {7, 8, 9};
+            ASSERT_EQ(zeliSet_8u_C3R(v3, d8.ptr(), d8.step(), {w, 2}), zelStatusOk);
+            for (int y = 0; y < 2; ++y)
+                for (int x = 0; x < w; ++x)
+                    for (int c = 0; c < 3; ++c) ASSERT_EQ(d8.at(x, y, c), 7 + c) << x;
+            zt::Image<Zel32f> d32(w, 1, 1, 0, zt::Flush::Tail, offset);
+            ASSERT_EQ(zeliSet_32f_C1R(-1.5f, d32.ptr(), d32.step(), {w, 1}), zelStatusOk);
+            for (int x = 0; x < w; ++x) ASSERT_EQ(d32.at(x, 0), -1.5f) << x;
+            zt::Image<Zel32f> d3(w / 4, 1, 3, 0, zt::Flush::Tail, offset);
+            const Zel32f f3[3] = {1.0f, 2.0f, 3.0f};
+            ASSERT_EQ(zeliSet_32f_C3R(f3, d3.ptr(), d3.step(), {w / 4, 1}), zelStatusOk);
+            for (int x = 0; x < w / 4; ++x)
+                for (int c = 0; c < 3; ++c) ASSERT_EQ(d3.at(x, 0, c), float(c + 1)) << x;
+        }
+    }
+}
+
 } // namespace

@@ -120,9 +120,9 @@ inline void div32f_block(const float* x, const float* y, float* d, int& z) {
 // depends only on their place in the run, not on alignment.
 struct F32DivOp {
     using V = __m128;
-    static constexpr bool kVec = true;
+    static constexpr bool kVec = false; // whole runs go through run()
     Zel32f operator()(Zel32f x, Zel32f y, int& z) const { return div_lane(y, x, z); }
-    V vec(V x, V, int&) const { return x; } // the run below is used instead
+    V vec(V x, V, int&) const { return x; }
     static int run(const float* x, const float* y, float* d, int n) {
         int z = 0, i = 0;
         for (; i + 8 <= n; i += 8) div32f_block<8>(x + i, y + i, d + i, z);

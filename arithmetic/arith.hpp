@@ -1,8 +1,8 @@
 // Pixelwise arithmetic of two images or an image and a constant: the scale
-// factor rule, the operation objects (each with a scalar form and, where it
-// pays, an SSE4.1 form computing the same bits) and the one row loop that runs
-// them, plus the entry templates that check arguments, pick the scale case,
-// decide on threads and walk the rows.
+// factor rule in scalar form, the entry templates that check arguments, pick
+// the scale case, decide on threads and walk the rows, and the rows that stay
+// scalar (alpha forms, complex products, 32-bit parts). The vector rows are in
+// arith_kernels.hpp (and div_kernels.hpp), compiled once per level.
 #pragma once
 
 #include "core/frame.hpp"
@@ -84,186 +84,47 @@ inline W raw(P x, P y) {
     return 0;
 }
 
-// ---- SSE helpers on four 32-bit lanes -----------------------------------------
-// Widen 16 bytes of P to 32-bit quads, and narrow with saturation.
-template <class P> struct Quads;
-template <> struct Quads<Zel8u> {
-    static constexpr int n = 4;
-    static void widen(__m128i v, __m128i* q) {
-        q[0] = _mm_cvtepu8_epi32(v);
-        q[1] = _mm_cvtepu8_epi32(_mm_srli_si128(v, 4));
-        q[2] = _mm_cvtepu8_epi32(_mm_srli_si128(v, 8));
-        q[3] = _mm_cvtepu8_epi32(_mm_srli_si128(v, 12));
-    }
-    static __m128i narrow(const __m128i* q) {
-        return _mm_packus_epi16(_mm_packs_epi32(q[0], q[1]), _mm_packs_epi32(q[2], q[3]));
-    }
-};
-template <> struct Quads<Zel16u> {
-    static constexpr int n = 2;
-    static void widen(__m128i v, __m128i* q) {
-        q[0] = _mm_cvtepu16_epi32(v);
-        q[1] = _mm_cvtepu16_epi32(_mm_srli_si128(v, 8));
-    }
-    static __m128i narrow(const __m128i* q) { return _mm_packus_epi32(q[0], q[1]); }
-};
-template <> struct Quads<Zel16s> {
-    static constexpr int n = 2;
-    static void widen(__m128i v, __m128i* q) {
-        q[0] = _mm_cvtepi16_epi32(v);
-        q[1] = _mm_cvtepi16_epi32(_mm_srli_si128(v, 8));
-    }
-    static __m128i narrow(const __m128i* q) { return _mm_packs_epi32(q[0], q[1]); }
-};
+// Where a scale factor puts an integer quotient: inside the float path, below
+// it (every non-zero quotient saturates) or above it (every quotient is 0).
+enum class Dc { In, Below, Above };
 
-// The saturated extremes of P by the sign of each lane (0 stays 0).
-template <class P>
-inline __m128i vbound(__m128i s) {
-    const __m128i z = _mm_setzero_si128();
-    const __m128i hi = _mm_set1_epi32(std::numeric_limits<P>::max()), lo = _mm_set1_epi32(std::numeric_limits<P>::min());
-    return _mm_or_si128(_mm_and_si128(_mm_cmpgt_epi32(s, z), hi), _mm_and_si128(_mm_cmplt_epi32(s, z), lo));
-}
+} // namespace zel
 
-// The vector form of scale() on 32-bit lanes; the narrowing pack saturates.
-template <Sc C, class P>
-inline __m128i vscale(__m128i s, int n) {
-    const __m128i one = _mm_set1_epi32(1);
-    if constexpr (C == Sc::One) s = _mm_srai_epi32(_mm_add_epi32(s, _mm_and_si128(_mm_srai_epi32(s, 1), one)), 1);
-    if constexpr (C == Sc::Pos) {
-        const __m128i cnt = _mm_cvtsi32_si128(n), half = _mm_set1_epi32((1 << (n - 1)) - 1);
-        s = _mm_sra_epi32(_mm_add_epi32(_mm_add_epi32(s, half), _mm_and_si128(_mm_sra_epi32(s, cnt), one)), cnt);
-    }
-    if constexpr (C == Sc::Neg) {
-        s = _mm_min_epi32(_mm_max_epi32(s, _mm_set1_epi32(std::numeric_limits<P>::min())),
-                          _mm_set1_epi32(std::numeric_limits<P>::max()));
-        s = _mm_sll_epi32(s, _mm_cvtsi32_si128(-n));
-    }
-    if constexpr (C == Sc::Bound) s = vbound<P>(s);
-    if constexpr (C == Sc::Zero) s = _mm_setzero_si128();
-    return s;
-}
+#define ZEL_KERNELS "arithmetic/arith_kernels.hpp"
+#include "core/simd/levels.hpp"
 
-template <Op O, class P>
-inline __m128i vraw(__m128i x, __m128i y) {
-    constexpr bool u = !std::is_signed<P>::value;
-    const __m128i z = _mm_setzero_si128();
-    if constexpr (O == Op::Add) return _mm_add_epi32(x, y);
-    if constexpr (O == Op::Sub) return u ? _mm_max_epi32(_mm_sub_epi32(y, x), z) : _mm_sub_epi32(y, x);
-    if constexpr (O == Op::SubR) return u ? _mm_max_epi32(_mm_sub_epi32(x, y), z) : _mm_sub_epi32(x, y);
-    return _mm_mullo_epi32(x, y);
-}
+namespace zel {
 
-// Saturating 8/16-bit add and subtract: the plain case without widening.
-template <Op O, class P>
-inline __m128i vsat(__m128i x, __m128i y) {
-    if constexpr (O == Op::Sub) std::swap(x, y);
-    if constexpr (same<P, Zel8u>) return O == Op::Add ? _mm_adds_epu8(x, y) : _mm_subs_epu8(x, y);
-    if constexpr (same<P, Zel16u>) return O == Op::Add ? _mm_adds_epu16(x, y) : _mm_subs_epu16(x, y);
-    return O == Op::Add ? _mm_adds_epi16(x, y) : _mm_subs_epi16(x, y);
-}
-
-// ---- Operation objects ------------------------------------------------------
-// operator()(x, y, z) is the scalar form; vec(x, y, z) the vector form on 16
-// bytes when kVec. z is raised for a zero divisor.
+// ---- Scalar operation objects ------------------------------------------------
+// operator()(x, y, z) is the scalar form of an operation, for the rows that
+// have no vector kernel; z is raised for a zero divisor.
 
 // Integer add, subtract, multiply with the scale rule of case C.
 template <Op O, class P, Sc C>
 struct IntOp {
     using W = wide_t<O, P>;
-    using V = __m128i;
-    static constexpr bool kVec = sizeof(P) <= 2 && same<W, int>;
     int n;
     P operator()(P x, P y, int&) const { return scale<C, P>(raw<O, W>(x, y), n); }
-    // 8u on 16-bit lanes: sums and differences fit signed, products unsigned.
-    __m128i vec8(__m128i x, __m128i y) const {
-        const __m128i z = _mm_setzero_si128(), one = _mm_set1_epi16(1), max = _mm_set1_epi16(255);
-        if constexpr (O == Op::Mul) {
-            __m128i p = _mm_mullo_epi16(x, y);
-            if constexpr (C == Sc::One) p = _mm_srli_epi16(_mm_add_epi16(p, _mm_and_si128(_mm_srli_epi16(p, 1), one)), 1);
-            if constexpr (C == Sc::Neg) p = _mm_sll_epi16(_mm_min_epu16(p, max), _mm_cvtsi32_si128(-n));
-            if constexpr (C == Sc::Bound) p = _mm_andnot_si128(_mm_cmpeq_epi16(p, z), max);
-            return _mm_min_epu16(p, max);
-        } else {
-            __m128i s = O == Op::Add ? _mm_add_epi16(x, y) : O == Op::Sub ? _mm_max_epi16(_mm_sub_epi16(y, x), z)
-                                                                         : _mm_max_epi16(_mm_sub_epi16(x, y), z);
-            if constexpr (C == Sc::One) s = _mm_srai_epi16(_mm_add_epi16(s, _mm_and_si128(_mm_srai_epi16(s, 1), one)), 1);
-            if constexpr (C == Sc::Pos) {
-                const __m128i cnt = _mm_cvtsi32_si128(n), half = _mm_set1_epi16(short((1 << (n - 1)) - 1));
-                s = _mm_sra_epi16(_mm_add_epi16(_mm_add_epi16(s, half), _mm_and_si128(_mm_sra_epi16(s, cnt), one)), cnt);
-            }
-            if constexpr (C == Sc::Neg) s = _mm_sll_epi16(_mm_min_epi16(s, max), _mm_cvtsi32_si128(-n));
-            if constexpr (C == Sc::Bound) s = _mm_and_si128(_mm_cmpgt_epi16(s, z), max);
-            return s;
-        }
-    }
-    V vec(V x, V y, int&) const {
-        if constexpr (kVec) {
-            if constexpr (C == Sc::Plain && O != Op::Mul) {
-                return vsat<O, P>(x, y);
-            } else if constexpr (same<P, Zel8u> && !(O == Op::Mul && C == Sc::Pos)) {
-                const __m128i z = _mm_setzero_si128();
-                return _mm_packus_epi16(vec8(_mm_unpacklo_epi8(x, z), _mm_unpacklo_epi8(y, z)),
-                                        vec8(_mm_unpackhi_epi8(x, z), _mm_unpackhi_epi8(y, z)));
-            } else {
-                __m128i qx[4], qy[4];
-                Quads<P>::widen(x, qx);
-                Quads<P>::widen(y, qy);
-                for (int q = 0; q < Quads<P>::n; ++q) qx[q] = vscale<C, P>(vraw<O, P>(qx[q], qy[q]), n);
-                return Quads<P>::narrow(qx);
-            }
-        } else {
-            return x;
-        }
-    }
 };
 
 // IEEE single add, subtract, multiply in the current rounding mode.
 template <Op O>
 struct FloatOp {
-    using V = __m128;
-    static constexpr bool kVec = true;
     Zel32f operator()(Zel32f x, Zel32f y, int&) const {
         if constexpr (O == Op::Add) return x + y;
         if constexpr (O == Op::Sub) return y - x;
         if constexpr (O == Op::SubR) return x - y;
         return x * y;
     }
-    V vec(V x, V y, int&) const {
-        if constexpr (O == Op::Add) return _mm_add_ps(x, y);
-        if constexpr (O == Op::Sub) return _mm_sub_ps(y, x);
-        if constexpr (O == Op::SubR) return _mm_sub_ps(x, y);
-        return _mm_mul_ps(x, y);
-    }
 };
 
 // Product of two fractions of full scale: (p + 1 + (p >> bits)) >> bits.
 template <class P>
 struct MulScaleOp {
-    using V = __m128i;
-    static constexpr bool kVec = true;
     static constexpr unsigned bits = sizeof(P) * 8;
     P operator()(P x, P y, int&) const {
         const unsigned p = unsigned(x) * unsigned(y);
         return P((p + 1u + (p >> bits)) >> bits);
-    }
-    V vec(V x, V y, int&) const {
-        if constexpr (same<P, Zel8u>) {
-            const __m128i z = _mm_setzero_si128(), one = _mm_set1_epi16(1);
-            __m128i lo = _mm_mullo_epi16(_mm_unpacklo_epi8(x, z), _mm_unpacklo_epi8(y, z));
-            __m128i hi = _mm_mullo_epi16(_mm_unpackhi_epi8(x, z), _mm_unpackhi_epi8(y, z));
-            lo = _mm_srli_epi16(_mm_add_epi16(_mm_add_epi16(lo, one), _mm_srli_epi16(lo, 8)), 8);
-            hi = _mm_srli_epi16(_mm_add_epi16(_mm_add_epi16(hi, one), _mm_srli_epi16(hi, 8)), 8);
-            return _mm_packus_epi16(lo, hi);
-        } else {
-            __m128i qx[2], qy[2];
-            Quads<P>::widen(x, qx);
-            Quads<P>::widen(y, qy);
-            for (int q = 0; q < 2; ++q) {
-                const __m128i p = _mm_mullo_epi32(qx[q], qy[q]);
-                qx[q] = _mm_srli_epi32(_mm_add_epi32(_mm_add_epi32(p, _mm_set1_epi32(1)), _mm_srli_epi32(p, 16)), 16);
-            }
-            return Quads<P>::narrow(qx);
-        }
     }
 };
 
@@ -293,76 +154,48 @@ inline P scale_sum(long long a, long long b, int n) {
 template <class E, Sc C>
 struct CplxMulOp {
     using P = typename Parts<E>::P;
-    using V = __m128i;
-    static constexpr bool kVec = false;
     int n;
     E operator()(E x, E y, int&) const {
         using W = long long;
         return E{scale_sum<C, P>(W(x.re) * y.re, -(W(x.im) * y.im), n),
                  scale_sum<C, P>(W(x.re) * y.im, W(x.im) * y.re, n)};
     }
-    V vec(V x, V, int&) const { return x; }
 };
 
 // Complex single product, no special case for infinities or NaN.
 struct CplxMulFOp {
-    using V = __m128;
-    static constexpr bool kVec = false;
     Zel32fc operator()(Zel32fc x, Zel32fc y, int&) const {
         return Zel32fc{x.re * y.re - x.im * y.im, x.re * y.im + x.im * y.re};
     }
-    V vec(V x, V, int&) const { return x; }
 };
 
-// ---- Row loop -----------------------------------------------------------------
-template <class V> inline V vload(const void* p);
-template <> inline __m128i vload<__m128i>(const void* p) { return _mm_loadu_si128(static_cast<const __m128i*>(p)); }
-template <> inline __m128 vload<__m128>(const void* p) { return _mm_loadu_ps(static_cast<const float*>(p)); }
-inline void vstore(void* p, __m128i v) { _mm_storeu_si128(static_cast<__m128i*>(p), v); }
-inline void vstore(void* p, __m128 v) { _mm_storeu_ps(static_cast<float*>(p), v); }
-
-constexpr int gcd_c(int a, int b) { return b == 0 ? a : gcd_c(b, a % b); }
-
-// A constant is passed to the row as a pattern: pattern[j] = value[j % PER],
-// long enough for any phase plus the widest round of registers.
-constexpr int kPattern = 96;
+// ---- Rows ------------------------------------------------------------------------
+// A constant is passed to the rows as a pattern: pattern[j] = value[j % PER],
+// long enough for any phase plus the widest vector of the smallest sample.
+constexpr int kPattern = 256;
 template <class E>
 struct Pattern {
-    alignas(16) E v[kPattern];
+    alignas(64) E v[kPattern];
     Pattern(const E* values, int per) {
         for (int j = 0; j < kPattern; ++j) v[j] = values[j % per];
     }
 };
 
-// One row of `count` elements: scalar head up to an aligned destination,
-// vector body, scalar tail. With CONST, b is a pattern of period PER.
+// Whether (O, P, C) has a vector kernel: the float operations, the products
+// of fractions, and the 8- and 16-bit integer operations whose exact
+// intermediate fits 32 bits.
+template <Op O, class P>
+constexpr bool has_kernel() {
+    if constexpr (O == Op::MulScale || is_f<P>) return true;
+    else return sizeof(P) <= 2 && same<wide_t<O, P>, int>;
+}
+
+// One row of `count` elements through a scalar operation. With CONST, b is a
+// pattern of period PER.
 template <class Op, class E, int PER, bool CONST>
-inline int row_run(const Op& op, const E* a, const E* b, E* d, int count) {
-    int z = 0, i = 0;
-    if constexpr (Op::kVec) {
-        using V = typename Op::V;
-        constexpr int lanes = 16 / int(sizeof(E));
-        // registers a round: a whole period of the constant pattern, or four
-        // independent ones for two images
-        constexpr int K = CONST ? PER / gcd_c(PER, lanes) : 4;
-        constexpr int step = K * lanes;
-        const std::uintptr_t addr = reinterpret_cast<std::uintptr_t>(d);
-        const int head = addr % sizeof(E) ? 0 : int((16 - addr % 16) % 16 / sizeof(E));
-        if (count >= 31 && count - head >= (CONST ? step : lanes)) {
-            for (; i < head; ++i) d[i] = op(a[i], CONST ? b[i % PER] : b[i], z);
-            V c[K];
-            if constexpr (CONST)
-                for (int k = 0; k < K; ++k) c[k] = vload<V>(b + head % PER + k * lanes);
-            for (; i + step <= count; i += step)
-                for (int k = 0; k < K; ++k) {
-                    const int j = i + k * lanes;
-                    vstore(d + j, op.vec(vload<V>(a + j), CONST ? c[k] : vload<V>(b + j), z));
-                }
-            if constexpr (!CONST)
-                for (; i + lanes <= count; i += lanes) vstore(d + i, op.vec(vload<V>(a + i), vload<V>(b + i), z));
-        }
-    }
-    for (; i < count; ++i) d[i] = op(a[i], CONST ? b[i % PER] : b[i], z);
+inline int row_scalar(const Op& op, const E* a, const E* b, E* d, int count) {
+    int z = 0;
+    for (int i = 0; i < count; ++i) d[i] = op(a[i], CONST ? b[i % PER] : b[i], z);
     return z;
 }
 
@@ -381,7 +214,7 @@ inline int row_alpha(const Op& op, const E* a, const E* b, E* d, int width) {
 template <class Op, class E, int SP, int AP, bool CONST>
 inline int row_any(const Op& op, const E* a, const E* b, E* d, int width) {
     if constexpr (AP < SP) return row_alpha<Op, E, SP, AP, CONST>(op, a, b, d, width);
-    else return row_run<Op, E, SP, CONST>(op, a, b, d, width * SP);
+    else return row_scalar<Op, E, SP, CONST>(op, a, b, d, width * SP);
 }
 
 // Fills the worked elements of each pixel with vals[0..AP).
@@ -465,18 +298,38 @@ inline int gate(Sc c) {
 inline bool fork_by(int g, ZeliSize roi) { return g == 0 || (g > 0 && roi.width + roi.height >= g); }
 
 // ---- Entry: add, subtract, multiply ------------------------------------------------
-// Runs operation Op over the image with the element type E and pixel shape.
+// Runs scalar operation Op over the image with the element type E and pixel shape.
 template <class Op, class E, int SP, int AP, bool CONST>
 inline void apply(const Op& op, const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSize roi, bool fork) {
-    if constexpr (CONST) {
-        if constexpr (AP < SP) {
-            run_rows<Op, E, SP, AP, true>(op, a, as, b, bs, d, ds, roi.width, roi.height, fork);
+    if constexpr (CONST && AP == SP) {
+        const Pattern<E> pat(b, SP);
+        run_rows<Op, E, SP, AP, true>(op, a, as, pat.v, bs, d, ds, roi.width, roi.height, fork);
+    } else {
+        run_rows<Op, E, SP, AP, CONST>(op, a, as, b, bs, d, ds, roi.width, roi.height, fork);
+    }
+}
+
+// Runs (O, P, C) over the image: the level's vector kernel for whole-pixel
+// rows where one exists, the scalar operation otherwise.
+template <Op O, class P, Sc C, int SP, int AP, bool CONST, class Scalar>
+inline void apply_op(const Scalar& op, const P* a, int as, const P* b, int bs, P* d, int ds, ZeliSize roi, int n,
+                     bool fork) {
+    if constexpr (AP == SP && has_kernel<O, P>()) {
+        const auto k = ZEL_PICK(arith_row<O, P, C, SP, CONST>);
+        auto rows = [&](const P* pb) {
+            rows_frame(roi.height, fork, [&](int r0, int r1) {
+                for (int r = r0; r < r1; ++r)
+                    k(row(a, as, r), CONST ? pb : row(pb, bs, r), row(d, ds, r), roi.width * SP, n);
+            });
+        };
+        if constexpr (CONST) {
+            const Pattern<P> pat(b, SP);
+            rows(pat.v);
         } else {
-            const Pattern<E> pat(b, SP);
-            run_rows<Op, E, SP, AP, true>(op, a, as, pat.v, bs, d, ds, roi.width, roi.height, fork);
+            rows(b);
         }
     } else {
-        run_rows<Op, E, SP, AP, false>(op, a, as, b, bs, d, ds, roi.width, roi.height, fork);
+        apply<Scalar, P, SP, AP, CONST>(op, a, as, b, bs, d, ds, roi, fork);
     }
 }
 
@@ -501,8 +354,9 @@ ZelStatus sfs_entry(const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSi
     if constexpr (is_f<P>) {
         const bool fork = fork_by(gate<O, E, GL, CONST, IP>(Sc::Plain), roi);
         if constexpr (partwise)
-            apply<FloatOp<O>, P, SP, AP, CONST>(FloatOp<O>{}, reinterpret_cast<const P*>(a), as,
-                                                reinterpret_cast<const P*>(b), bs, reinterpret_cast<P*>(d), ds, roi, fork);
+            apply_op<O, P, Sc::Plain, SP, AP, CONST>(FloatOp<O>{}, reinterpret_cast<const P*>(a), as,
+                                                     reinterpret_cast<const P*>(b), bs, reinterpret_cast<P*>(d), ds, roi,
+                                                     0, fork);
         else
             apply<CplxMulFOp, E, SP, AP, CONST>(CplxMulFOp{}, a, as, b, bs, d, ds, roi, fork);
         return zelStatusOk;
@@ -542,7 +396,7 @@ ZelStatus sfs_entry(const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSi
         auto go = [&](auto tag) {
             constexpr Sc C = decltype(tag)::value;
             if constexpr (partwise)
-                apply<IntOp<O, P, C>, EW, SP, AP, CONST>(IntOp<O, P, C>{n}, wa, as, wb, bs, wd, ds, roi, fork);
+                apply_op<O, P, C, SP, AP, CONST>(IntOp<O, P, C>{n}, wa, as, wb, bs, wd, ds, roi, n, fork);
             else
                 apply<CplxMulOp<E, C>, EW, SP, AP, CONST>(CplxMulOp<E, C>{n}, wa, as, wb, bs, wd, ds, roi, fork);
         };
@@ -564,7 +418,7 @@ ZelStatus mulscale_entry(const E* a, int as, const E* b, int bs, E* d, int ds, Z
     if (CONST ? any_bad_step(as, ds) : any_bad_step(as, bs, ds)) return zelStatusBadStep;
     if (bad_size(roi)) return zelStatusBadSize;
     constexpr int SP = channels(L), AP = active(L);
-    apply<MulScaleOp<E>, E, SP, AP, CONST>(MulScaleOp<E>{}, a, as, b, bs, d, ds, roi, false);
+    apply_op<Op::MulScale, E, Sc::Plain, SP, AP, CONST>(MulScaleOp<E>{}, a, as, b, bs, d, ds, roi, 0, false);
     return zelStatusOk;
 }
 

@@ -74,6 +74,27 @@ inline int thread_count() {
     return n < 1 ? 1 : n;
 }
 
+// A worker of a team runs under the calling thread's floating-point control
+// word (rounding, flush-to-zero and denormal bits, exception masks): the
+// thread runtime does not hand it on, and a worker may keep a word from an
+// earlier call. The worker's own word comes back when its share is done.
+class CallerFpEnv {
+public:
+    explicit CallerFpEnv(unsigned callerWord) : own_(_mm_getcsr()), caller_(callerWord & kControlBits) {
+        if ((own_ & kControlBits) != caller_) _mm_setcsr((own_ & ~kControlBits) | caller_);
+    }
+    ~CallerFpEnv() {
+        if ((own_ & kControlBits) != caller_) _mm_setcsr((_mm_getcsr() & ~kControlBits) | (own_ & kControlBits));
+    }
+    CallerFpEnv(const CallerFpEnv&) = delete;
+    CallerFpEnv& operator=(const CallerFpEnv&) = delete;
+    // Everything of MXCSR but the sticky exception flags (bits 0 to 5).
+    static constexpr unsigned kControlBits = 0xffc0u;
+
+private:
+    unsigned own_, caller_;
+};
+
 // Rows frame: a static schedule of contiguous row blocks, one a thread.
 // body(firstRow, endRow) runs once per non-empty block. With fork false, or a
 // single thread allowed, the calling thread does all rows.
@@ -84,8 +105,10 @@ inline void rows_frame(int height, bool fork, F&& body) {
         body(0, height);
         return;
     }
+    const unsigned csr = _mm_getcsr();
 #pragma omp parallel num_threads(team)
     {
+        const CallerFpEnv fp(csr);
         const int n = omp_get_num_threads(), t = omp_get_thread_num();
         const int q = height / n, r = height % n;
         const int first = t * q + (t < r ? t : r);
@@ -102,8 +125,10 @@ template <class F>
 inline int bands_frame(int count, int team, F&& body) {
     if (team <= 1) return body(0, count, 0) != 0 ? 1 : 0;
     int failures = 0, teamSize = 1, perThread = 0, remainder = 0;
+    const unsigned csr = _mm_getcsr();
 #pragma omp parallel num_threads(team) shared(failures, teamSize, perThread, remainder)
     {
+        const CallerFpEnv fp(csr);
 #pragma omp master
         {
             teamSize = omp_get_num_threads();
@@ -137,8 +162,10 @@ inline ZelStatus bands_scratch_frame(int height, int team, std::size_t perThread
     }
     char* block = nullptr;
     int failed = 0, teamSize = 1, perThread = 0, remainder = 0;
+    const unsigned csr = _mm_getcsr();
 #pragma omp parallel num_threads(team) shared(block, failed, teamSize, perThread, remainder)
     {
+        const CallerFpEnv fp(csr);
 #pragma omp master
         {
             teamSize = omp_get_num_threads();

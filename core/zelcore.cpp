@@ -5,16 +5,46 @@
 #include <cpuid.h>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
+#include <sched.h>
 #include <unistd.h>
 
 namespace {
 
-std::atomic<int> g_threads{0};      // 0: not set, use the processor count
+std::atomic<int> g_threads{0};      // 0: not set, use the default
 std::atomic<int> g_cacheOverride{0}; // 0: detect, < 0: unknown, > 0: this size
+std::atomic<int> g_isa{0};          // 0: not forced, use the default
 
-int processor_count() {
-    long n = sysconf(_SC_NPROCESSORS_ONLN);
+// Processors this process may run on; the online count when the affinity
+// cannot be read.
+int affinity_count() {
+    cpu_set_t set;
+    if (sched_getaffinity(0, sizeof set, &set) == 0) {
+        const int n = CPU_COUNT(&set);
+        if (n > 0) return n;
+    }
+    const long n = sysconf(_SC_NPROCESSORS_ONLN);
     return n > 0 ? int(n) : 1;
+}
+
+// The first entry of OMP_NUM_THREADS ("4" or "4,2"), or 0 when it is unset or
+// not a positive number.
+int omp_threads_setting() {
+    const char* v = std::getenv("OMP_NUM_THREADS");
+    if (!v) return 0;
+    while (*v == ' ' || *v == '\t') ++v;
+    long n = 0;
+    for (; *v >= '0' && *v <= '9'; ++v) {
+        n = n * 10 + (*v - '0');
+        if (n > 4096) return 4096;
+    }
+    if (*v != 0 && *v != ',' && *v != ' ') return 0;
+    return int(n);
+}
+
+int default_threads() {
+    const int omp = omp_threads_setting();
+    return omp > 0 ? omp : affinity_count();
 }
 
 bool cpuid(unsigned leaf, unsigned sub, unsigned r[4]) {
@@ -65,9 +95,66 @@ long long detect_cache() {
     return size;
 }
 
+// The best kernel level: SSE4.1 and SSE4.2 always (the library's baseline);
+// AVX2 when the processor has it and the operating system saves the YMM
+// state; AVX-512 F, BW, VL and DQ when it also saves the opmask and ZMM state.
+int detect_isa() {
+    unsigned r[4];
+    if (!cpuid(1, 0, r)) return zelIsaSse41;
+    const bool osxsave = (r[2] >> 27) & 1, avx = (r[2] >> 28) & 1;
+    if (!osxsave || !avx) return zelIsaSse41;
+    unsigned lo, hi;
+    __asm__ volatile("xgetbv" : "=a"(lo), "=d"(hi) : "c"(0));
+    (void)hi;
+    if ((lo & 0x6) != 0x6) return zelIsaSse41;
+    if (!cpuid(7, 0, r)) return zelIsaSse41;
+    const unsigned b = r[1];
+    if (!((b >> 5) & 1)) return zelIsaSse41; // AVX2
+    const bool f = (b >> 16) & 1, dq = (b >> 17) & 1, bw = (b >> 30) & 1, vl = (b >> 31) & 1;
+    if (f && dq && bw && vl && (lo & 0xe6) == 0xe6) return zelIsaAvx512;
+    return zelIsaAvx2;
+}
+
+int isa_max() {
+    static const int best = detect_isa();
+    return best;
+}
+
+// The default level: the best one, or ZEL_ISA's if that is lower.
+int isa_default() {
+    static const int level = [] {
+        const int best = isa_max();
+        const char* v = std::getenv("ZEL_ISA");
+        if (!v) return best;
+        int want = best;
+        if (std::strcmp(v, "sse41") == 0) want = zelIsaSse41;
+        else if (std::strcmp(v, "avx2") == 0) want = zelIsaAvx2;
+        else if (std::strcmp(v, "avx512") == 0) want = zelIsaAvx512;
+        return want < best ? want : best;
+    }();
+    return level;
+}
+
 } // namespace
 
 extern "C" {
+
+int zelGetIsaLevelMax(void) { return isa_max(); }
+
+int zelGetIsaLevel(void) {
+    const int forced = g_isa.load(std::memory_order_relaxed);
+    return forced > 0 ? forced : isa_default();
+}
+
+int zelSetIsaLevel(int level) {
+    if (level < 1) {
+        g_isa.store(0, std::memory_order_relaxed);
+    } else {
+        const int best = isa_max();
+        g_isa.store(level < best ? level : best, std::memory_order_relaxed);
+    }
+    return zelGetIsaLevel();
+}
 
 void* zelMalloc(size_t length) {
     if (length == 0) return nullptr;
@@ -98,8 +185,8 @@ int zelGetNumThreads(void) { return ownGetNumThreads(); }
 int ownGetNumThreads(void) {
     int n = g_threads.load(std::memory_order_relaxed);
     if (n > 0) return n;
-    static const int procs = processor_count();
-    return procs;
+    static const int fallback = default_threads();
+    return fallback;
 }
 
 // Feature word bits: 1 MMX, 2 SSE, 4 SSE2, 8 SSE3, 16 SSSE3, 32 MOVBE, 64 SSE4.1,

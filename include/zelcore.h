@@ -25,10 +25,26 @@ ZELCORE_API int zelGetMaxCacheSizeB(int* pSizeBytes);
    a negative value makes the size unknown. Meant for tuning and tests. */
 ZELCORE_API void zelSetMaxCacheSizeB(int sizeBytes);
 
-/* Threads the library may use in one call. Default: the number of processors.
-   A value below 1 restores the default. */
+/* Threads the library may use in one call. Default: the first value of
+   OMP_NUM_THREADS when it is set, otherwise the number of processors this
+   process may run on (its CPU affinity). A value below 1 restores the
+   default. Every function may be called from several application threads at
+   once; each call then forks its own team. */
 ZELCORE_API void zelSetNumThreads(int numThreads);
 ZELCORE_API int zelGetNumThreads(void);
+
+/* Instruction-set levels of the row kernels. */
+enum { zelIsaSse41 = 1, zelIsaAvx2 = 2, zelIsaAvx512 = 3 };
+/* The level the kernels use now. Default: the best level the processor and
+   the operating system support (AVX-512 needs F, BW, VL and DQ), lowered by
+   the environment variable ZEL_ISA=sse41|avx2|avx512 when it is set. */
+ZELCORE_API int zelGetIsaLevel(void);
+/* The best level the processor and the operating system support. */
+ZELCORE_API int zelGetIsaLevelMax(void);
+/* Forces a level for all later calls; a level the processor lacks is lowered
+   to the best it has, and a value below 1 restores the default. Returns the
+   level now in force. Meant for tests and measurements. */
+ZELCORE_API int zelSetIsaLevel(int level);
 
 /* Inner queries used by libzelip8. */
 ZELCORE_API int ownGetNumThreads(void);

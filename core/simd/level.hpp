@@ -11,6 +11,10 @@ namespace zel {
 namespace avx2 {
 #elif ZEL_LEVEL == 3
 #pragma GCC target("avx2,avx512f,avx512bw,avx512vl,avx512dq,popcnt")
+// The 512-bit intrinsics of GCC 12 start from deliberately undefined
+// registers, which its uninitialised-use analysis reports once inlined.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
 namespace zel {
 namespace avx512 {
 #else
@@ -26,4 +30,7 @@ namespace avx512 {
 
 } // namespace level
 } // namespace zel
+#if ZEL_LEVEL == 3
+#pragma GCC diagnostic pop
+#endif
 #pragma GCC pop_options

@@ -135,8 +135,8 @@ inline unsigned long long lane_mask(int n, int lanes) { return n >= lanes ? ~0ul
 template <class V>
 inline V load_n(const typename V::Lane* p, int n) {
     using T = typename V::Lane;
-    constexpr int B = V::kWidth;
 #if ZEL_LEVEL == 3
+    constexpr int B = V::kWidth;
     const auto k = lane_mask(n, V::kLanes);
     if constexpr (sizeof(T) == 1) {
         if constexpr (B == 16) return wrap<T, B>(_mm_maskz_loadu_epi8(__mmask16(k), p));
@@ -324,7 +324,7 @@ template <int B>
 inline typename Reg<B>::i fix_pack(typename Reg<B>::i r) {
     if constexpr (B == 16) return r;
     else if constexpr (B == 32) return _mm256_permute4x64_epi64(r, 0xD8);
-    else return _mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), r);
+    else return _mm512_maskz_permutexvar_epi64(__mmask8(0xff), _mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), r);
 }
 
 // ---- Narrowing with saturation ----------------------------------------------------
@@ -444,7 +444,7 @@ inline Vec<float, B> rcp(Vec<float, B> a) {
         const __m512 x = rf(a);
         const __m256 lo = _mm256_rcp_ps(_mm512_castps512_ps256(x));
         const __m256 hi = _mm256_rcp_ps(_mm256_castpd_ps(_mm512_extractf64x4_pd(_mm512_castps_pd(x), 1)));
-        return wrap<float, B>(_mm512_insertf32x8(_mm512_castps256_ps512(lo), hi, 1));
+        return wrap<float, B>(_mm512_insertf32x8(_mm512_zextps256_ps512(lo), hi, 1));
     }
 }
 

@@ -526,3 +526,62 @@ inline T reduce_add(Vec<T, B> a) {
     for (int i = 0; i < Vec<T, B>::kLanes; ++i) s += a.v[i];
     return s;
 }
+
+// ---- Unary mathematics and shifts: halves, double lanes, byte shifts --------------
+// Two half-width vectors side by side, lo's lanes first.
+template <class T, int H>
+inline Vec<T, 2 * H> join(Vec<T, H> lo, Vec<T, H> hi) {
+    Vec<T, 2 * H> r;
+    __builtin_memcpy(&r.v, &lo.v, H);
+    __builtin_memcpy(reinterpret_cast<char*>(&r.v) + H, &hi.v, H);
+    return r;
+}
+
+// Double lanes rounded to single precision in the current rounding mode, a's
+// lanes first.
+template <int B>
+inline Vec<float, B> to_float(Vec<double, B> a, Vec<double, B> b) {
+    return join(convert<float>(a), convert<float>(b));
+}
+
+// Double lanes to 32-bit integers towards zero, a's lanes first (the values
+// must be in range).
+template <int B>
+inline Vec<std::int32_t, B> trunc_int(Vec<double, B> a, Vec<double, B> b) {
+    return join(convert<std::int32_t>(a), convert<std::int32_t>(b));
+}
+
+// Rounding of double lanes to integral values by a fixed mode, as round_to of
+// float lanes.
+template <int Mode, int B>
+inline Vec<double, B> round_to(Vec<double, B> a) {
+    if constexpr (B == 16) return wrap<double, B>(_mm_round_pd(rd(a), Mode | _MM_FROUND_NO_EXC));
+    else if constexpr (B == 32) return wrap<double, B>(_mm256_round_pd(rd(a), Mode | _MM_FROUND_NO_EXC));
+    else return wrap<double, B>(_mm512_roundscale_pd(rd(a), Mode | _MM_FROUND_NO_EXC));
+}
+
+// Every lane shifted by n (0 <= n < lane bits): left discards the high bits,
+// right is logical for unsigned lanes and arithmetic for signed ones. Byte
+// lanes shift as 16-bit lanes and drop the bits that crossed into a
+// neighbour; a signed byte gets its sign back by (u ^ m) - m, m = 0x80 >> n.
+template <class T, int B>
+inline Vec<T, B> shift_l(Vec<T, B> a, int n) {
+    using U = std::make_unsigned_t<T>;
+    if constexpr (sizeof(T) == 1)
+        return bitcast<T>(shl(bitcast<std::uint16_t>(a), n)) & set1<Vec<T, B>>(T(0xff & (0xff << n)));
+    else return bitcast<T>(shl(bitcast<U>(a), n));
+}
+template <class T, int B>
+inline Vec<T, B> shift_r(Vec<T, B> a, int n) {
+    if constexpr (sizeof(T) == 1) {
+        const Vec<T, B> u = bitcast<T>(shr(bitcast<std::uint16_t>(a), n)) & set1<Vec<T, B>>(T(0xff >> n));
+        if constexpr (std::is_signed<T>::value) {
+            const Vec<T, B> m = set1<Vec<T, B>>(T(0x80 >> n));
+            return (u ^ m) - m;
+        } else {
+            return u;
+        }
+    } else {
+        return shr(a, n);
+    }
+}

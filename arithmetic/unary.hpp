@@ -6,6 +6,7 @@
 // forks: a row of at least 4096 floats (2048 integers) is split in two halves.
 #pragma once
 
+#include "arithmetic/rows.hpp"
 #include "core/frame.hpp"
 
 #include <cmath>
@@ -29,28 +30,6 @@ struct UnArgs {
     double fd = 1.0; // 2^-n
     int m = 0;       // integer exponential: every sample at or above thr[j] gains delta[j]
     int thr[kExpSteps] = {}, delta[kExpSteps] = {};
-};
-
-// Rows longer than an int can count are worked in spans of a length that
-// every pixel size and pattern period divides (48 bytes or samples).
-constexpr int kSpan = (1 << 30) - (1 << 30) % 48;
-template <class F>
-inline void for_spans(long long count, F&& f) {
-    for (long long at = 0; at < count; at += kSpan) f(at, int(count - at < kSpan ? count - at : kSpan));
-}
-
-// The keep pattern of an AC4 row: all bits set on colour samples, zero on alpha.
-constexpr int kKeep = 128;
-template <class T>
-struct Keep {
-    alignas(64) T v[kKeep];
-    Keep() {
-        for (int j = 0; j < kKeep; ++j) std::memset(&v[j], j % 4 == 3 ? 0 : 0xff, sizeof(T));
-    }
-};
-template <class T>
-struct NoKeep {
-    const T* v = nullptr;
 };
 
 } // namespace zel

@@ -14,3 +14,4 @@
 #include "zelip8/fn_norm.h"
 #include "zelip8/fn_hist.h"
 #include "zelip8/fn_unary.h"
+#include "zelip8/fn_logic.h"

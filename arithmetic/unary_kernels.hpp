@@ -15,23 +15,21 @@
 #endif
 
 // ---- Single-precision logarithm --------------------------------------------------
-// Natural logarithm of positive finite lanes (denormals included), within
-// 0.86 ulp (checked against a double logarithm over every positive float).
-// With x = 2^k m, m in [sqrt(1/2), sqrt(2)), f = m - 1 and s = f / (2 + f):
+// Natural logarithm of positive normal lanes, within 0.86 ulp (checked
+// against a double logarithm over every positive float). With x = 2^k m,
+// m in [sqrt(1/2), sqrt(2)), f = m - 1 and s = f / (2 + f):
 //   ln(1 + f) = 2 atanh(s) = f - (f^2/2 - s (f^2/2 + R)),
 //   R = 2/3 s^2 + 2/5 s^4 + 2/7 s^6 + 2/9 s^8,
 // and k ln 2 in a high part with trailing zeros (k times it is exact) and
-// a low part. Lanes that are not positive and finite give garbage.
+// a low part. `kadj` is taken from k (a denormal comes scaled by 2^25).
 template <int B>
-[[gnu::always_inline]] inline Vec<float, B> ln_positive(Vec<float, B> x) {
+[[gnu::always_inline]] inline Vec<float, B> ln_normal(Vec<float, B> x, Vec<std::int32_t, B> kadj) {
     using F = Vec<float, B>;
-    using I = Vec<std::int32_t, B>;
     using U = Vec<std::uint32_t, B>;
-    const F dn = lt(x, set1<F>(0x1p-126f)); // denormals are scaled into the normal range first
-    const U bits = bitcast<std::uint32_t>(select(dn, x * set1<F>(0x1p25f), x));
-    const I k0 = shr<23>(bitcast<std::int32_t>(bits - set1<U>(0x3f3504f3u))); // 0x3f3504f3: sqrt(1/2)
+    const U bits = bitcast<std::uint32_t>(x);
+    const auto k0 = shr<23>(bitcast<std::int32_t>(bits - set1<U>(0x3f3504f3u))); // 0x3f3504f3: sqrt(1/2)
     const F m = bitcast<float>(bits - shl<23>(bitcast<std::uint32_t>(k0)));
-    const F kf = to_float(k0 - (bitcast<std::int32_t>(dn) & set1<I>(25)));
+    const F kf = to_float(k0 - kadj);
     const F f = m - set1<F>(1.0f);
     const F s = f / (set1<F>(2.0f) + f);
     const F z = s * s;
@@ -40,24 +38,45 @@ template <int B>
     return kf * set1<F>(0x1.62e4p-1f) - ((hfsq - (s * (hfsq + r) + kf * set1<F>(0x1.7f7d1cp-20f))) - f);
 }
 
-// ---- Exponential in double lanes ----------------------------------------------------
-// e^d for d in [-104, 89] to about 2^-34 relative: k = round(d / ln 2),
-// r = d - k ln 2 in [-ln 2 / 2, ln 2 / 2], e^r by a degree-7 polynomial close
-// to the best one on that interval, and k added to the exponent. Rounded to
-// single precision this is within 0.51 ulp (checked over every float).
+// Whether every lane is a positive normal float.
 template <int B>
-[[gnu::always_inline]] inline Vec<double, B> exp_bounded(Vec<double, B> d) {
-    using D = Vec<double, B>;
-    using Q = Vec<std::uint64_t, B>;
-    static constexpr double c[8] = {0x1.a17e052cd2c8fp-13, 0x1.6da767a4988a9p-10, 0x1.1110a6173845ep-7,
-                                    0x1.555464884204ep-5,  0x1.5555557e7777ep-3,  0x1.0000005c981fcp-1,
-                                    0x1.fffffffff61ddp-1,  0x1.ffffffffa7011p-1};
-    const D k = round_to<_MM_FROUND_TO_NEAREST_INT>(d * set1<D>(0x1.71547652b82fep+0));
-    const D r = d - k * set1<D>(0x1.62e42fefa39efp-1);
-    D p = set1<D>(c[0]);
-    for (int j = 1; j < 8; ++j) p = p * r + set1<D>(c[j]);
-    const Q kb = bitcast<std::uint64_t>(k + set1<D>(0x1.8p52)); // k in the low bits
-    return bitcast<double>(bitcast<std::uint64_t>(p) + shl<52>(kb));
+[[gnu::always_inline]] inline bool all_positive_normal(Vec<float, B> x) {
+    using U = Vec<std::uint32_t, B>;
+    return none(ge(bitcast<std::uint32_t>(x) - set1<U>(0x00800000u), set1<U>(0x7f000000u)));
+}
+
+// ---- Single-precision exponential ---------------------------------------------------
+// e^x within 0.77 ulp (0.52 where the result is normal; checked against a
+// double exponential over every float). k = round(8 x / ln 2), r = x - k ln 2 / 8
+// (ln 2 / 8 in two parts, k times the first exact), e^r - 1 = r + r^2 Q(r)
+// with Q close to the best quadratic on |r| <= ln 2 / 16, and
+//   e^x = 2^(k >> 3) (T + (T (e^r - 1) + t)),  T + t = 2^((k & 7) / 8)
+// from an eight-entry table in two parts. Lanes in [-86.5, 88] give normal
+// results and take 2^(k >> 3) into the exponent; others are clamped to
+// [-104, 89] and scaled by two exact powers of two, so that overflow,
+// denormal results and underflow round once. NaN stays NaN.
+template <int B>
+[[gnu::always_inline]] inline Vec<float, B> exp_float(Vec<float, B> x) {
+    using F = Vec<float, B>;
+    using I = Vec<std::int32_t, B>;
+    static constexpr float hi[8] = {0x1p+0f,        0x1.172b84p+0f, 0x1.306fep+0f,  0x1.4bfdaep+0f,
+                                    0x1.6a09e6p+0f, 0x1.8ace54p+0f, 0x1.ae89fap+0f, 0x1.d5818ep+0f};
+    static constexpr float lo[8] = {0.0f,           -0x1.c15742p-27f, 0x1.4636e2p-25f,  -0x1.593abcp-25f,
+                                    0x1.9fcef4p-26f, 0x1.15506ep-27f,  -0x1.a94b14p-26f, -0x1.822dbcp-27f};
+    const bool inner = none(lt(x, set1<F>(-86.5f)) | ~le(x, set1<F>(88.0f))); // NaN is not inner
+    const F c = inner ? x : min(max(x, set1<F>(-104.0f)), set1<F>(89.0f));
+    const F kf = round_to<_MM_FROUND_TO_NEAREST_INT>(c * set1<F>(0x1.715476p+3f));
+    const I k = trunc_int(kf);
+    const F r = (c - kf * set1<F>(0x1.62ep-4f)) - kf * set1<F>(0x1.0bfbe8p-18f);
+    const F q = r + r * r * (set1<F>(0.5f) + r * (set1<F>(0x1.555b9p-3f) + r * set1<F>(0x1.55597cp-5f)));
+    const I j = k & set1<I>(7), m = shr<3>(k);
+    const F t = lookup8(hi, j);
+    const F y = t + (t * q + lookup8(lo, j));
+    if (inner) return bitcast<float>(bitcast<std::uint32_t>(y) + shl<23>(bitcast<std::uint32_t>(m)));
+    const I m1 = shr<1>(m), m2 = m - m1;
+    const F p1 = bitcast<float>(shl<23>(bitcast<std::uint32_t>(m1 + set1<I>(127))));
+    const F p2 = bitcast<float>(shl<23>(bitcast<std::uint32_t>(m2 + set1<I>(127))));
+    return select(ne(x, x), x, (y * p1) * p2);
 }
 
 // ---- Integer lanes through 32 bits --------------------------------------------------
@@ -149,16 +168,22 @@ struct UnVec<Un::Sqrt, T, false> {
 };
 
 // Natural logarithm: -inf for a zero (zero warning), NaN for a negative
-// sample or -inf (negative warning), NaN and +inf unchanged.
+// sample or -inf (negative warning), NaN and +inf unchanged; denormals are
+// scaled into the normal range. A vector of positive normal samples only
+// takes the plain path, which gives the same bits.
 template <>
 struct UnVec<Un::Ln, float, true> {
     using V = Vec<float>;
+    using I = Vec<std::int32_t>;
     explicit UnVec(const UnArgs&) {}
     [[gnu::always_inline]] V operator()(V x, V& neg, V& zer) const {
+        if (all_positive_normal(x)) return ln_normal(x, zero<I>());
         const V z = zero<V>(), inf = set1<V>(std::numeric_limits<float>::infinity());
+        const V dn = lt(x, set1<V>(0x1p-126f));
         neg = lt(x, z);
         zer = eq(x, z);
-        V r = select(ne(x, x) | eq(x, inf), x, ln_positive(x));
+        V r = ln_normal(select(dn, x * set1<V>(0x1p25f), x), bitcast<std::int32_t>(dn) & set1<I>(25));
+        r = select(ne(x, x) | eq(x, inf), x, r);
         r = select(zer, -inf, r);
         return select(neg, set1<V>(std::numeric_limits<float>::quiet_NaN()), r);
     }
@@ -191,7 +216,7 @@ struct UnVec<Un::Ln, T, false> {
     [[gnu::always_inline]] I log_scaled(I x) const {
         constexpr float hi = float(std::numeric_limits<T>::max());
         const I lowest = set1<I>(std::numeric_limits<T>::min());
-        const F v = ln_positive(to_float(max(x, set1<I>(1)))) * set1<F>(a.f);
+        const F v = ln_normal(to_float(max(x, set1<I>(1))), zero<I>()) * set1<F>(a.f);
         const F half = abs(v - round_to<_MM_FROUND_TO_NEG_INF>(v) - set1<F>(0.5f));
         const F near = lt(half, v * set1<F>(0x1p-21f) + set1<F>(0x1p-30f)) & lt(v, set1<F>(hi + 1.0f)) &
                        bitcast<float>(gt(x, zero<I>()));
@@ -215,16 +240,12 @@ struct UnVec<Un::Ln, T, false> {
     }
 };
 
-// e^x, through double lanes; NaN stays, +inf and -inf give +inf and 0.
+// e^x; NaN stays, +inf and -inf give +inf and 0.
 template <>
 struct UnVec<Un::Exp, float, true> {
     using V = Vec<float>;
     explicit UnVec(const UnArgs&) {}
-    [[gnu::always_inline]] V operator()(V x, V&, V&) const {
-        const V c = min(max(x, set1<V>(-104.0f)), set1<V>(89.0f));
-        const V r = to_float(exp_bounded(widen_lo<double>(c)), exp_bounded(widen_hi<double>(c)));
-        return select(ne(x, x), x, r);
-    }
+    [[gnu::always_inline]] V operator()(V x, V&, V&) const { return exp_float(x); }
 };
 
 // e^x 2^-n truncated and saturated: a step function of the integer x, summed

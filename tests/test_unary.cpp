@@ -216,7 +216,7 @@ void every_value(const Form& f) {
     zt::Image<T> s(256, count / 256, 1), d(256, count / 256, 1);
     for (int i = 0; i < count; ++i) s.ptr()[i] = T(i);
     zt::for_each_level([&](int) {
-        for (int n : kScales) {
+        for (int n : {-16, -9, -8, -1, 0, 1, 2, 9, 16, 31}) {
             call<T>(f, s.ptr(), s.step(), d.ptr(), d.step(), s.size(), n);
             for (int i = 0; i < count; ++i) {
                 int warn;
@@ -228,6 +228,34 @@ void every_value(const Form& f) {
     });
 }
 TEST(Unary, EveryIntegerSample) { for_forms(forms({"Sqr", "Sqrt", "Ln", "Exp"}), 89, ZT_EACH_TYPE(every_value)); }
+
+// Every float through the logarithm and the exponential at every level
+// (about a minute a level; run with --gtest_also_run_disabled_tests).
+TEST(Unary, DISABLED_EveryFloatWithinOneUlp) {
+    const int n = 1 << 20;
+    std::vector<float> x(n), y(n);
+    for (const char* fn : {"Ln", "Exp"}) {
+        const Form f = forms({fn})[0]; // the C1R form
+        zt::for_each_level([&](int) {
+            double worst = 0;
+            for (std::uint64_t base = 0; base < (1ull << 32); base += n) {
+                for (int i = 0; i < n; ++i) {
+                    const std::uint32_t b = std::uint32_t(base + i);
+                    std::memcpy(&x[i], &b, 4);
+                }
+                call<float>(f, x.data(), n * 4, y.data(), n * 4, {n, 1}, 0);
+                for (int i = 0; i < n; ++i) {
+                    int warn;
+                    double ulps;
+                    const double e = reference<float>(fn, x[i], 0, warn, ulps);
+                    ASSERT_TRUE(close(y[i], e, 1)) << fn << " x=" << x[i] << " got " << y[i] << " want " << e;
+                    if (std::isfinite(e) && e != 0 && std::isfinite(y[i])) worst = std::max(worst, std::fabs(y[i] - e) / ulp_at(e));
+                }
+            }
+            std::printf("%s level %d: worst %.4f ulp\n", fn, zelGetIsaLevel(), worst);
+        });
+    }
+}
 
 // A long row of the square root is split over two threads: the same bytes,
 // and the warning of a negative sample in either half.

@@ -527,7 +527,7 @@ inline T reduce_add(Vec<T, B> a) {
     return s;
 }
 
-// ---- Unary mathematics and shifts: halves, double lanes, byte shifts --------------
+// ---- Unary mathematics and shifts: halves, double lanes, byte shifts, small tables --
 // Two half-width vectors side by side, lo's lanes first.
 template <class T, int H>
 inline Vec<T, 2 * H> join(Vec<T, H> lo, Vec<T, H> hi) {
@@ -535,13 +535,6 @@ inline Vec<T, 2 * H> join(Vec<T, H> lo, Vec<T, H> hi) {
     __builtin_memcpy(&r.v, &lo.v, H);
     __builtin_memcpy(reinterpret_cast<char*>(&r.v) + H, &hi.v, H);
     return r;
-}
-
-// Double lanes rounded to single precision in the current rounding mode, a's
-// lanes first.
-template <int B>
-inline Vec<float, B> to_float(Vec<double, B> a, Vec<double, B> b) {
-    return join(convert<float>(a), convert<float>(b));
 }
 
 // Double lanes to 32-bit integers towards zero, a's lanes first (the values
@@ -583,5 +576,23 @@ inline Vec<T, B> shift_r(Vec<T, B> a, int n) {
         }
     } else {
         return shr(a, n);
+    }
+}
+
+// Lanes of an eight-entry float table picked by 32-bit indices in [0, 7]:
+// two byte shuffles of the table's halves at 16 bytes, one permute wider.
+template <int B>
+inline Vec<float, B> lookup8(const float* table, Vec<std::int32_t, B> idx) {
+    if constexpr (B == 16) {
+        const __m128i spread = _mm_setr_epi8(0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12);
+        const __m128i c = _mm_add_epi8(_mm_shuffle_epi8(_mm_slli_epi32(ri(idx), 2), spread),
+                                       _mm_set1_epi32(0x03020100));
+        const __m128 lo = _mm_castsi128_ps(_mm_shuffle_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(table)), c));
+        const __m128 hi = _mm_castsi128_ps(_mm_shuffle_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(table + 4)), c));
+        return wrap<float, B>(_mm_blendv_ps(lo, hi, _mm_castsi128_ps(_mm_slli_epi32(ri(idx), 29))));
+    } else if constexpr (B == 32) {
+        return wrap<float, B>(_mm256_permutevar8x32_ps(_mm256_loadu_ps(table), ri(idx)));
+    } else {
+        return wrap<float, B>(_mm512_permutexvar_ps(ri(idx), _mm512_zextps256_ps512(_mm256_loadu_ps(table))));
     }
 }

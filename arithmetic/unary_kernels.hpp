@@ -100,6 +100,14 @@ template <class T, int B>
     else if constexpr (sizeof(T) == 2) return narrow<T>(w[0], w[1]);
     else return bitcast<T>(w[0]);
 }
+// op.lanes() on the samples of x as 32-bit lanes, saturated back to T.
+template <class T, class Op>
+[[gnu::always_inline]] inline Vec<T> through_i32(const Op& op, Vec<T> x) {
+    Vec<std::int32_t> w[4];
+    to_i32(x, w);
+    for (int j = 0; j < int(sizeof(std::int32_t) / sizeof(T)); ++j) w[j] = op.lanes(w[j]);
+    return from_i32<T>(w);
+}
 
 // ---- The operations ------------------------------------------------------------------
 // op(x, neg, zero): the results of one vector of samples; `neg` and `zero`
@@ -145,7 +153,7 @@ struct UnVec<Un::Sqrt, T, false> {
     float f;
     double fd;
     explicit UnVec(const UnArgs& a) : f(a.f), fd(a.fd) {}
-    [[gnu::always_inline]] I root(I x) const {
+    [[gnu::always_inline]] I lanes(I x) const {
         constexpr double hi = std::numeric_limits<T>::max();
         if constexpr (sizeof(T) == 1) {
             const F q = round_to<_MM_FROUND_TO_NEAREST_INT>(sqrt(to_float(x)) * set1<F>(f));
@@ -160,10 +168,7 @@ struct UnVec<Un::Sqrt, T, false> {
             neg = lt(x, zero<V>());
             x = max(x, zero<V>());
         }
-        I w[4];
-        to_i32(x, w);
-        for (int j = 0; j < int(sizeof(std::int32_t) / sizeof(T)); ++j) w[j] = root(w[j]);
-        return from_i32<T>(w);
+        return through_i32(*this, x);
     }
 };
 
@@ -213,7 +218,7 @@ struct UnVec<Un::Ln, T, false> {
     static constexpr int L = I::kLanes;
     const UnArgs& a;
     explicit UnVec(const UnArgs& args) : a(args) {}
-    [[gnu::always_inline]] I log_scaled(I x) const {
+    [[gnu::always_inline]] I lanes(I x) const {
         constexpr float hi = float(std::numeric_limits<T>::max());
         const I lowest = set1<I>(std::numeric_limits<T>::min());
         const F v = ln_normal(to_float(max(x, set1<I>(1))), zero<I>()) * set1<F>(a.f);
@@ -233,10 +238,7 @@ struct UnVec<Un::Ln, T, false> {
     [[gnu::always_inline]] V operator()(V x, V& neg, V& zer) const {
         zer = eq(x, zero<V>());
         if constexpr (std::is_signed<T>::value) neg = lt(x, zero<V>());
-        I w[4];
-        to_i32(x, w);
-        for (int j = 0; j < int(sizeof(std::int32_t) / sizeof(T)); ++j) w[j] = log_scaled(w[j]);
-        return from_i32<T>(w);
+        return through_i32(*this, x);
     }
 };
 

@@ -235,7 +235,9 @@ TEST(Unary, DISABLED_EveryFloatWithinOneUlp) {
     const int n = 1 << 20;
     std::vector<float> x(n), y(n);
     for (const char* fn : {"Ln", "Exp"}) {
-        const Form f = forms({fn})[0]; // the C1R form
+        Form f{};
+        for (const Form& g : forms({fn}))
+            if (g.type == "32f" && g.ch == 1 && !g.ip) f = g;
         zt::for_each_level([&](int) {
             double worst = 0;
             for (std::uint64_t base = 0; base < (1ull << 32); base += n) {

@@ -46,42 +46,22 @@
            (pSrc, srcStep, value, pDst, dstStep, roiSize), (zel::shift<LEFT, Zel##T, zel::L>))                 \
     ZEL_FN(ZelStatus, zeli##F##_##T##_##L##IR, (const Zel32u* value, Zel##T* pSrcDst, int srcDstStep, ZeliSize roiSize), \
            (pSrcDst, srcDstStep, value, pSrcDst, srcDstStep, roiSize), (zel::shift<LEFT, Zel##T, zel::L>))
-/* One function over the four layouts. */
+/* One function over the four layouts, and over the sample types. */
 #define ZEL_LOGIC_4(F, T) ZEL_LOGIC(F, T, C1) ZEL_LOGIC(F, T, C3) ZEL_LOGIC(F, T, C4) ZEL_LOGIC(F, T, AC4)
 #define ZEL_LOGICC_4(F, OP, T) ZEL_LOGICC1(F, OP, T) ZEL_LOGICC(F, OP, T, C3) ZEL_LOGICC(F, OP, T, C4) ZEL_LOGICC(F, OP, T, AC4)
 #define ZEL_SHIFT_4(F, LEFT, T) ZEL_SHIFT1(F, LEFT, T) ZEL_SHIFT(F, LEFT, T, C3) ZEL_SHIFT(F, LEFT, T, C4) ZEL_SHIFT(F, LEFT, T, AC4)
-ZEL_LOGIC_4(And, 8u)
-ZEL_LOGIC_4(And, 16u)
-ZEL_LOGIC_4(And, 32s)
-ZEL_LOGIC_4(Or, 8u)
-ZEL_LOGIC_4(Or, 16u)
-ZEL_LOGIC_4(Or, 32s)
-ZEL_LOGIC_4(Xor, 8u)
-ZEL_LOGIC_4(Xor, 16u)
-ZEL_LOGIC_4(Xor, 32s)
-ZEL_LOGICC_4(AndC, And, 8u)
-ZEL_LOGICC_4(AndC, And, 16u)
-ZEL_LOGICC_4(AndC, And, 32s)
-ZEL_LOGICC_4(OrC, Or, 8u)
-ZEL_LOGICC_4(OrC, Or, 16u)
-ZEL_LOGICC_4(OrC, Or, 32s)
-ZEL_LOGICC_4(XorC, Xor, 8u)
-ZEL_LOGICC_4(XorC, Xor, 16u)
-ZEL_LOGICC_4(XorC, Xor, 32s)
-ZEL_NOT(C1)
-ZEL_NOT(C3)
-ZEL_NOT(C4)
-ZEL_NOT(AC4)
-ZEL_SHIFT_4(LShiftC, true, 8u)
-ZEL_SHIFT_4(LShiftC, true, 16u)
-ZEL_SHIFT_4(LShiftC, true, 32s)
-ZEL_SHIFT_4(RShiftC, false, 8u)
-ZEL_SHIFT_4(RShiftC, false, 8s)
-ZEL_SHIFT_4(RShiftC, false, 16u)
-ZEL_SHIFT_4(RShiftC, false, 16s)
-ZEL_SHIFT_4(RShiftC, false, 32s)
+#define ZEL_LOGIC_TYPES(F, OP) ZEL_LOGIC_4(F, 8u) ZEL_LOGIC_4(F, 16u) ZEL_LOGIC_4(F, 32s) \
+    ZEL_LOGICC_4(F##C, OP, 8u) ZEL_LOGICC_4(F##C, OP, 16u) ZEL_LOGICC_4(F##C, OP, 32s)
+ZEL_LOGIC_TYPES(And, And)
+ZEL_LOGIC_TYPES(Or, Or)
+ZEL_LOGIC_TYPES(Xor, Xor)
+ZEL_NOT(C1) ZEL_NOT(C3) ZEL_NOT(C4) ZEL_NOT(AC4)
+ZEL_SHIFT_4(LShiftC, true, 8u) ZEL_SHIFT_4(LShiftC, true, 16u) ZEL_SHIFT_4(LShiftC, true, 32s)
+ZEL_SHIFT_4(RShiftC, false, 8u) ZEL_SHIFT_4(RShiftC, false, 8s) ZEL_SHIFT_4(RShiftC, false, 16u)
+ZEL_SHIFT_4(RShiftC, false, 16s) ZEL_SHIFT_4(RShiftC, false, 32s)
 ZEL_FN(ZelStatus, zeliComplement_32s_C1IR, (Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize),
        (pSrcDst, srcDstStep, roiSize), (zel::complement))
+#undef ZEL_LOGIC_TYPES
 #undef ZEL_SHIFT_4
 #undef ZEL_LOGICC_4
 #undef ZEL_LOGIC_4

@@ -54,7 +54,7 @@ void exp_steps(int n, UnArgs& a) {
     while (x > lo && f(x) > 0) x = x - 4 < lo ? lo : x - 4;
     for (int prev = 0;; ++x) {
         const int v = f(x);
-        if (v > prev) {
+        if (v > prev && a.m < kExpSteps) {
             a.thr[a.m] = x, a.delta[a.m] = v - prev, ++a.m;
             prev = v;
         }

@@ -569,8 +569,9 @@ inline Vec<T, B> shift_r(Vec<T, B> a, int n) {
     if constexpr (sizeof(T) == 1) {
         const Vec<T, B> u = bitcast<T>(shr(bitcast<std::uint16_t>(a), n)) & set1<Vec<T, B>>(T(0xff >> n));
         if constexpr (std::is_signed<T>::value) {
-            const Vec<T, B> m = set1<Vec<T, B>>(T(0x80 >> n));
-            return (u ^ m) - m;
+            using U8 = Vec<std::uint8_t, B>;
+            const U8 m = set1<U8>(std::uint8_t(0x80 >> n));
+            return bitcast<T>((bitcast<std::uint8_t>(u) ^ m) - m);
         } else {
             return u;
         }

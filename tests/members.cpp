@@ -6,6 +6,7 @@
 #include <limits>
 #include <map>
 #include <random>
+#include <stdexcept>
 
 namespace zt {
 
@@ -328,6 +329,7 @@ void Call::build() {
             } else {
                 const int b = add_buffer(span, im.esize, p.type, fill);
                 slots_[i].buffer = b;
+                slots_[i].step = im.step, slots_[i].channels = im.ch, slots_[i].size = im.size;
                 std::uint8_t* base = buffers_[b]->mem.data();
                 if (inPlaceBorder) base += std::size_t(top) * im.step + std::size_t(left) * im.ch * im.esize;
                 slots_[i].ptr = base;
@@ -414,6 +416,33 @@ void Call::build() {
             return void(why_ = "parameter " + p.type + " " + n);
         }
     }
+}
+
+int Call::index(const char* param) const {
+    for (std::size_t i = 0; i < m_.params.size(); ++i)
+        if (m_.params[i].name == param) return int(i);
+    return -1;
+}
+
+int Call::slot(const char* param) const {
+    const int i = index(param);
+    if (i < 0) throw std::invalid_argument(m_.name + " has no parameter " + param);
+    return i;
+}
+
+const std::uint8_t* Call::first_of(const char* param) const {
+    const Slot& s = slots_[slot(param)];
+    const Buffer& b = *buffers_[s.buffer];
+    return b.first.data() + (static_cast<const std::uint8_t*>(s.ptr) - b.mem.data());
+}
+
+Call::View Call::view(const char* param) const {
+    const Slot& s = slots_[slot(param)];
+    View v;
+    v.first = first_of(param);
+    v.now = static_cast<const std::uint8_t*>(s.ptr);
+    v.step = s.step, v.channels = s.channels, v.size = s.size;
+    return v;
 }
 
 ZelStatus Call::run() {

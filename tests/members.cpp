@@ -139,7 +139,8 @@ bool starts(const std::string& s, const char* p) { return s.compare(0, std::strl
 struct Call::Buffer {
     GuardedBuffer mem;
     std::vector<std::uint8_t> first;
-    Buffer(std::size_t bytes) : mem(bytes < 1 ? 1 : bytes), first(mem.size()) {}
+    std::string elem;
+    Buffer(std::size_t bytes, const std::string& e) : mem(bytes < 1 ? 1 : bytes), first(mem.size()), elem(e) {}
 };
 
 Call::Call(const Member& m, ZeliSize size, std::uint32_t seed, int scaleFactor)
@@ -156,7 +157,7 @@ void Call::set_scalar(int i, const void* v, std::size_t n) { std::memcpy(slots_[
 // Fill codes: 0 random samples of the element type, 1 random bytes, 2 zeros,
 // 3 a mask (zero or not, half and half).
 int Call::add_buffer(std::size_t bytes, int elemSize, const std::string& elem, int fill) {
-    auto b = std::make_unique<Buffer>(bytes);
+    auto b = std::make_unique<Buffer>(bytes, elem);
     std::mt19937 rng(seed_ * 7919u + unsigned(buffers_.size()) * 104729u + 1u);
     std::uint8_t* p = b->mem.data();
     const std::size_t n = b->mem.size();
@@ -450,9 +451,26 @@ ZelStatus Call::run() {
     return m_.invoke(m_.fn, *this);
 }
 
-std::vector<std::uint8_t> Call::bytes() const {
+std::vector<std::uint8_t> Call::bytes(bool canonicalNan) const {
     std::vector<std::uint8_t> all;
-    for (const auto& b : buffers_) all.insert(all.end(), b->mem.data(), b->mem.data() + b->mem.size());
+    for (const auto& b : buffers_) {
+        const std::size_t at = all.size(), n = b->mem.size();
+        all.insert(all.end(), b->mem.data(), b->mem.data() + n);
+        if (!canonicalNan) continue;
+        if (b->elem == "Zel32f" || b->elem == "Zel32fc") {
+            for (std::size_t i = 0; i + 4 <= n; i += 4) {
+                float f;
+                std::memcpy(&f, &all[at + i], 4);
+                if (std::isnan(f)) std::memcpy(&all[at + i], "\x00\x00\xc0\xff", 4);
+            }
+        } else if (b->elem == "Zel64f") {
+            for (std::size_t i = 0; i + 8 <= n; i += 8) {
+                double d;
+                std::memcpy(&d, &all[at + i], 8);
+                if (std::isnan(d)) std::memcpy(&all[at + i], "\x00\x00\x00\x00\x00\x00\xf8\xff", 8);
+            }
+        }
+    }
     return all;
 }
 

@@ -53,8 +53,11 @@ public:
     const std::string& why() const { return why_; }
 
     ZelStatus run();
-    // Every byte of every buffer, in parameter order.
-    std::vector<std::uint8_t> bytes() const;
+    // Every byte of every buffer, in parameter order. With canonicalNan, every
+    // NaN of a float buffer reads as the processor's default NaN: which NaN an
+    // addition of two NaN passes on depends on its operand order, which the
+    // compiler may swap.
+    std::vector<std::uint8_t> bytes(bool canonicalNan = false) const;
 
     // What a test needs to check a result: an image parameter's first
     // contents and its contents now, its step, size and channels a pixel.

@@ -329,40 +329,56 @@ no state between calls and may be called from several threads at once.
 Scratch memory taken inside a call is freed before it returns.
 )";
 
-std::string members_table(const List& l) {
-    std::string out = "| Function | Type: forms |\n|---|---|\n";
-    for (const Family& f : l.families) {
-        // One row per family and variant, the forms of each type on one line.
-        std::vector<std::pair<std::string, std::vector<std::pair<std::string, std::string>>>> rows;
+// Members of one list by function and variant (zeliThreshold_LTValGTVal), in
+// list order: the first member, and the forms of each type.
+struct Row {
+    std::string key;
+    const Entry* first;
+    std::vector<std::pair<std::string, std::string>> types;
+};
+
+std::vector<Row> rows_of(const List& l) {
+    std::vector<Row> rows;
+    for (const Family& f : l.families)
         for (const Entry* e : f.members) {
             Name n = split_name(e->name);
             std::string key = n.variant.empty() ? n.family : n.family + "_" + n.variant;
             std::size_t r = 0;
-            while (r < rows.size() && rows[r].first != key) ++r;
-            if (r == rows.size()) rows.push_back({key, {}});
-            auto& types = rows[r].second;
+            while (r < rows.size() && rows[r].key != key) ++r;
+            if (r == rows.size()) rows.push_back(Row{key, e, {}});
+            auto& types = rows[r].types;
             std::size_t t = 0;
             while (t < types.size() && types[t].first != n.type) ++t;
             if (t == types.size()) types.push_back({n.type, ""});
             types[t].second += (types[t].second.empty() ? "" : " ") + n.descriptor;
         }
-        for (const auto& row : rows) {
-            // Types with the same forms share one entry: `8u`, `16s`: C1R C3R.
-            std::vector<std::pair<std::string, std::string>> merged;
-            for (const auto& t : row.second) {
-                std::string type = t.first.empty() ? "" : "`" + t.first + "`";
-                std::size_t m = 0;
-                while (m < merged.size() && merged[m].second != t.second) ++m;
-                if (m == merged.size()) merged.push_back({type, t.second});
-                else merged[m].first += ", " + type;
-            }
-            std::string cell;
-            for (const auto& t : merged)
-                cell += (cell.empty() ? "" : "; ") + (t.first.empty() ? std::string("no tokens") : t.first + ": " + t.second);
-            out += "| `" + row.first + "` | " + cell + " |\n";
+    return rows;
+}
+
+std::string members_table(const std::vector<Row>& rows) {
+    std::string out = "| Function | Type: forms |\n|---|---|\n";
+    for (const Row& row : rows) {
+        // Types with the same forms share one entry: `8u`, `16s`: C1R C3R.
+        std::vector<std::pair<std::string, std::string>> merged;
+        for (const auto& t : row.types) {
+            std::string type = t.first.empty() ? "" : "`" + t.first + "`";
+            std::size_t m = 0;
+            while (m < merged.size() && merged[m].second != t.second) ++m;
+            if (m == merged.size()) merged.push_back({type, t.second});
+            else merged[m].first += ", " + type;
         }
+        std::string cell;
+        for (const auto& t : merged)
+            cell += (cell.empty() ? "" : "; ") + (t.first.empty() ? std::string("no tokens") : t.first + ": " + t.second);
+        out += "| `" + row.key + "` | " + cell + " |\n";
     }
     return out;
+}
+
+// Comment text as Markdown: no HTML tags or emphasis out of <type> and *step.
+std::string markdown(std::string text) {
+    text = replace_all(text, "<", "&lt;");
+    return replace_all(text, "*", "\\*");
 }
 
 std::string reference(const std::vector<List>& lists) {
@@ -381,12 +397,13 @@ std::string reference(const std::vector<List>& lists) {
         for (const Family& f : l.families) count += f.members.size();
         out += "\n<a id=\"" + l.file.substr(0, l.file.size() - 2) + "\"></a>\n";
         out += "## " + l.title + "\n\n";
-        out += l.text + "\n\n";
-        if (!l.checks.empty()) out += "**Checks and statuses:** " + l.checks + "\n\n";
+        out += markdown(l.text) + "\n\n";
+        if (!l.checks.empty()) out += "**Checks and statuses:** " + markdown(l.checks) + "\n\n";
         out += "**Members** (" + std::to_string(count) + ", list `include/zelip8/" + l.file + "`):\n\n";
-        out += members_table(l) + "\n";
-        out += "**Argument order**, one member of each family:\n\n```c\n";
-        for (const Family& f : l.families) out += prototype("", *f.members.front());
+        const std::vector<Row> rows = rows_of(l);
+        out += members_table(rows) + "\n";
+        out += "**Argument order**, the first member of each function:\n\n```c\n";
+        for (const Row& row : rows) out += prototype("", *row.first);
         out += "```\n";
         if (!l.example.empty()) out += "\n**A worked call:**\n\n```c\n" + l.example + "\n```\n";
     }

@@ -39,8 +39,9 @@ def run_programs(build, flt, repetitions):
         if repetitions > 1:
             cmd += [f"--benchmark_repetitions={repetitions}", "--benchmark_report_aggregates_only=false"]
         print(f"running {os.path.basename(prog)} ...", file=sys.stderr, flush=True)
-        out = subprocess.run(cmd, check=True, stdout=subprocess.PIPE, text=True).stdout
-        results += json.loads(out).get("benchmarks", [])
+        run = subprocess.run(cmd, check=True, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+        if run.stdout.strip():  # nothing when the filter matches no benchmark of this program
+            results += json.loads(run.stdout).get("benchmarks", [])
     return results
 
 

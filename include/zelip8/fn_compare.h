@@ -5,7 +5,22 @@
    zeliCompareEqualEps(C): 255 where |a - b| <= eps in every channel.
    zeliThreshold: x beyond a level becomes the level (plain, GT, LT) or a value
    (Val, GTVal, LTVal, LTValGTVal); NaN samples stay.
-   zeliComputeThreshold_Otsu_8u_C1R: the level that best splits the histogram. */
+   zeliComputeThreshold_Otsu_8u_C1R: the level that best splits the histogram.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep, then the
+   family's own: zelStatusBadEpsilon for eps below zero, zelStatusBadThreshold
+   when thresholdLT is above thresholdGT, zelStatusBadMode for a threshold
+   operator other than zelCmpLess and zelCmpGreater. zeliCompare and
+   zeliCompareC return zelStatusOk for an operator above 4 and write nothing.
+
+   Example:
+       Zel8u img[4 * 2] = {10, 200, 90, 30, 250, 0, 128, 129};
+       Zel8u level = 0, mask[4 * 2];
+       ZeliSize roi = {4, 2};
+       ZelStatus st = zeliComputeThreshold_Otsu_8u_C1R(img, 4, roi, &level);
+       // mask = 255 where img > level, else 0
+       if (st == zelStatusOk) st = zeliCompareC_8u_C1R(img, 4, level, mask, 4, roi, zelCmpGreater);
+*/
 #define ZEL_CMP_IMG(T, L)                                                                                  \
     ZEL_FN(ZelStatus, zeliCompare_##T##_##L##R,                                                            \
            (const Zel##T* pSrc1, int src1Step, const Zel##T* pSrc2, int src2Step, Zel8u* pDst, int dstStep,  \

@@ -47,7 +47,9 @@ TEST(Status, UnknownCodesGetAGenericText) {
         EXPECT_NE(text.find(code < 0 ? "error" : "warning"), std::string::npos) << code << ": " << text;
     }
     for (int code = -10000; code <= 100; ++code) {
-        if (!codes.count(code)) ASSERT_EQ(std::string(zelGetStatusString(code)).rfind("unknown", 0), 0u) << code;
+        if (!codes.count(code)) {
+            ASSERT_EQ(std::string(zelGetStatusString(code)).rfind("unknown", 0), 0u) << code;
+        }
     }
 }
 

@@ -26,6 +26,15 @@
 #error "core/simd/vec.hpp is included by core/simd/levels.hpp"
 #endif
 
+// A 32- or 64-byte vector never crosses a real call: the calling convention
+// of a function follows the file's baseline options, not the level's, and the
+// compiler then returns such a vector in a register whose upper half it clears
+// on the way out. Every function of the layer, and every function of a
+// kernels header that takes or returns a Vec (operation objects and their
+// helpers included), is therefore always inlined: mark it ZEL_VI (ZEL_VL for
+// a lambda). Row kernels,
+// which take pointers and counts, are the only real calls into a level.
+
 constexpr int kBytes = ZEL_LEVEL == 3 ? 64 : ZEL_LEVEL == 2 ? 32 : 16;
 constexpr int kLevel = ZEL_LEVEL;
 
@@ -64,21 +73,21 @@ template <> struct Reg<16> { using i = __m128i; using f = __m128; using d = __m1
 template <> struct Reg<32> { using i = __m256i; using f = __m256; using d = __m256d; };
 template <> struct Reg<64> { using i = __m512i; using f = __m512; using d = __m512d; };
 
-template <class T, int B> inline typename Reg<B>::i ri(Vec<T, B> a) { return (typename Reg<B>::i)a.v; }
-template <class T, int B> inline typename Reg<B>::f rf(Vec<T, B> a) { return (typename Reg<B>::f)a.v; }
-template <class T, int B> inline typename Reg<B>::d rd(Vec<T, B> a) { return (typename Reg<B>::d)a.v; }
-template <class T, int B, class R> inline Vec<T, B> wrap(R r) { return Vec<T, B>{(typename Vec<T, B>::Raw)r}; }
+template <class T, int B> ZEL_VI typename Reg<B>::i ri(Vec<T, B> a) { return (typename Reg<B>::i)a.v; }
+template <class T, int B> ZEL_VI typename Reg<B>::f rf(Vec<T, B> a) { return (typename Reg<B>::f)a.v; }
+template <class T, int B> ZEL_VI typename Reg<B>::d rd(Vec<T, B> a) { return (typename Reg<B>::d)a.v; }
+template <class T, int B, class R> ZEL_VI Vec<T, B> wrap(R r) { return Vec<T, B>{(typename Vec<T, B>::Raw)r}; }
 
 // Same bits, other lane type.
 template <class U, class T, int B>
-inline Vec<U, B> bitcast(Vec<T, B> a) { return Vec<U, B>{(typename Vec<U, B>::Raw)a.v}; }
+ZEL_VI Vec<U, B> bitcast(Vec<T, B> a) { return Vec<U, B>{(typename Vec<U, B>::Raw)a.v}; }
 
 // ---- Construction and memory ------------------------------------------------
-template <class V> inline V zero() { return V{typename V::Raw{}}; }
+template <class V> ZEL_VI V zero() { return V{typename V::Raw{}}; }
 // Every lane x, bit for bit (a float goes through its integer pattern, so
 // -0.0 and NaN payloads stay as they are).
 template <class V>
-inline V set1(typename V::Lane x) {
+ZEL_VI V set1(typename V::Lane x) {
     using T = typename V::Lane;
     if constexpr (std::is_floating_point<T>::value) {
         using I = typename IntOfSize<sizeof(T)>::type;
@@ -92,48 +101,48 @@ inline V set1(typename V::Lane x) {
 
 // Lane i holds first + i.
 template <class V>
-inline V iota(typename V::Lane first = 0) {
+ZEL_VI V iota(typename V::Lane first = 0) {
     typename V::Raw r;
     for (int i = 0; i < V::kLanes; ++i) r[i] = typename V::Lane(first + i);
     return V{r};
 }
 
-template <class V> inline V load(const typename V::Lane* p) {
+template <class V> ZEL_VI V load(const typename V::Lane* p) {
     V r;
     __builtin_memcpy(&r.v, p, sizeof r.v);
     return r;
 }
-template <class V> inline V load_a(const typename V::Lane* p) {
+template <class V> ZEL_VI V load_a(const typename V::Lane* p) {
     return V{*reinterpret_cast<const typename V::Raw*>(__builtin_assume_aligned(p, V::kWidth))};
 }
-template <class T, int B> inline void store(T* p, Vec<T, B> a) { __builtin_memcpy(p, &a.v, sizeof a.v); }
-template <class T, int B> inline void store_a(T* p, Vec<T, B> a) {
+template <class T, int B> ZEL_VI void store(T* p, Vec<T, B> a) { __builtin_memcpy(p, &a.v, sizeof a.v); }
+template <class T, int B> ZEL_VI void store_a(T* p, Vec<T, B> a) {
     *reinterpret_cast<typename Vec<T, B>::Raw*>(__builtin_assume_aligned(p, B)) = a.v;
 }
 
 // Non-temporal store of an aligned vector; fence() orders the streamed data
 // before the call returns.
 template <class T, int B>
-inline void stream(T* p, Vec<T, B> a) {
+ZEL_VI void stream(T* p, Vec<T, B> a) {
     if constexpr (B == 16) _mm_stream_si128(reinterpret_cast<__m128i*>(p), ri(a));
     else if constexpr (B == 32) _mm256_stream_si256(reinterpret_cast<__m256i*>(p), ri(a));
     else _mm512_stream_si512(reinterpret_cast<__m512i*>(p), ri(a));
 }
-inline void fence() { _mm_sfence(); }
+ZEL_VI void fence() { _mm_sfence(); }
 
 // Either store by a compile-time choice.
 template <bool NT, class T, int B>
-inline void put_a(T* p, Vec<T, B> a) {
+ZEL_VI void put_a(T* p, Vec<T, B> a) {
     if constexpr (NT) stream(p, a);
     else store_a(p, a);
 }
 
 // The low n of `lanes` bits set (n <= lanes <= 64).
-inline unsigned long long lane_mask(int n, int lanes) { return n >= lanes ? ~0ull : ((1ull << n) - 1); }
+ZEL_VI unsigned long long lane_mask(int n, int lanes) { return n >= lanes ? ~0ull : ((1ull << n) - 1); }
 
 // The first n lanes from p (0 <= n <= lanes), the others zero.
 template <class V>
-inline V load_n(const typename V::Lane* p, int n) {
+ZEL_VI V load_n(const typename V::Lane* p, int n) {
     using T = typename V::Lane;
 #if ZEL_LEVEL == 3
     constexpr int B = V::kWidth;
@@ -164,7 +173,7 @@ inline V load_n(const typename V::Lane* p, int n) {
 
 // The first n lanes of a to p; nothing else is written.
 template <class T, int B>
-inline void store_n(T* p, Vec<T, B> a, int n) {
+ZEL_VI void store_n(T* p, Vec<T, B> a, int n) {
 #if ZEL_LEVEL == 3
     const auto k = lane_mask(n, Vec<T, B>::kLanes);
     if constexpr (sizeof(T) == 1) {
@@ -190,61 +199,61 @@ inline void store_n(T* p, Vec<T, B> a, int n) {
 }
 
 // Lane i of a vector.
-template <class T, int B> inline T lane(Vec<T, B> a, int i) { return a.v[i]; }
+template <class T, int B> ZEL_VI T lane(Vec<T, B> a, int i) { return a.v[i]; }
 
 // ---- Element-wise arithmetic and logic ------------------------------------------
 // Integer lanes wrap; float lanes follow IEEE in the current rounding mode.
-template <class T, int B> inline Vec<T, B> operator+(Vec<T, B> a, Vec<T, B> b) { return {a.v + b.v}; }
-template <class T, int B> inline Vec<T, B> operator-(Vec<T, B> a, Vec<T, B> b) { return {a.v - b.v}; }
-template <class T, int B> inline Vec<T, B> operator*(Vec<T, B> a, Vec<T, B> b) { return {a.v * b.v}; }
-template <class T, int B> inline Vec<T, B> operator/(Vec<T, B> a, Vec<T, B> b) { return {a.v / b.v}; }
-template <class T, int B> inline Vec<T, B> operator-(Vec<T, B> a) { return {-a.v}; }
+template <class T, int B> ZEL_VI Vec<T, B> operator+(Vec<T, B> a, Vec<T, B> b) { return {a.v + b.v}; }
+template <class T, int B> ZEL_VI Vec<T, B> operator-(Vec<T, B> a, Vec<T, B> b) { return {a.v - b.v}; }
+template <class T, int B> ZEL_VI Vec<T, B> operator*(Vec<T, B> a, Vec<T, B> b) { return {a.v * b.v}; }
+template <class T, int B> ZEL_VI Vec<T, B> operator/(Vec<T, B> a, Vec<T, B> b) { return {a.v / b.v}; }
+template <class T, int B> ZEL_VI Vec<T, B> operator-(Vec<T, B> a) { return {-a.v}; }
 
-template <class T, int B> inline Vec<T, B> operator&(Vec<T, B> a, Vec<T, B> b) {
+template <class T, int B> ZEL_VI Vec<T, B> operator&(Vec<T, B> a, Vec<T, B> b) {
     return wrap<T, B>(bitcast<std::int64_t>(a).v & bitcast<std::int64_t>(b).v);
 }
-template <class T, int B> inline Vec<T, B> operator|(Vec<T, B> a, Vec<T, B> b) {
+template <class T, int B> ZEL_VI Vec<T, B> operator|(Vec<T, B> a, Vec<T, B> b) {
     return wrap<T, B>(bitcast<std::int64_t>(a).v | bitcast<std::int64_t>(b).v);
 }
-template <class T, int B> inline Vec<T, B> operator^(Vec<T, B> a, Vec<T, B> b) {
+template <class T, int B> ZEL_VI Vec<T, B> operator^(Vec<T, B> a, Vec<T, B> b) {
     return wrap<T, B>(bitcast<std::int64_t>(a).v ^ bitcast<std::int64_t>(b).v);
 }
-template <class T, int B> inline Vec<T, B> operator~(Vec<T, B> a) { return wrap<T, B>(~bitcast<std::int64_t>(a).v); }
+template <class T, int B> ZEL_VI Vec<T, B> operator~(Vec<T, B> a) { return wrap<T, B>(~bitcast<std::int64_t>(a).v); }
 // a & ~m
-template <class T, int B> inline Vec<T, B> andnot(Vec<T, B> m, Vec<T, B> a) { return a & ~m; }
+template <class T, int B> ZEL_VI Vec<T, B> andnot(Vec<T, B> m, Vec<T, B> a) { return a & ~m; }
 
 // Shifts: logical for unsigned lanes, arithmetic for signed ones.
-template <int K, class T, int B> inline Vec<T, B> shl(Vec<T, B> a) { return {a.v << K}; }
-template <int K, class T, int B> inline Vec<T, B> shr(Vec<T, B> a) { return {a.v >> K}; }
+template <int K, class T, int B> ZEL_VI Vec<T, B> shl(Vec<T, B> a) { return {a.v << K}; }
+template <int K, class T, int B> ZEL_VI Vec<T, B> shr(Vec<T, B> a) { return {a.v >> K}; }
 // By a run-time count, the same for every lane (0 <= n < lane bits).
-template <class T, int B> inline Vec<T, B> shl(Vec<T, B> a, int n) { return {a.v << n}; }
-template <class T, int B> inline Vec<T, B> shr(Vec<T, B> a, int n) { return {a.v >> n}; }
+template <class T, int B> ZEL_VI Vec<T, B> shl(Vec<T, B> a, int n) { return {a.v << n}; }
+template <class T, int B> ZEL_VI Vec<T, B> shr(Vec<T, B> a, int n) { return {a.v >> n}; }
 
 // ---- Comparison and selection ------------------------------------------------
-template <class T, int B> inline Vec<T, B> eq(Vec<T, B> a, Vec<T, B> b) { return wrap<T, B>(a.v == b.v); }
-template <class T, int B> inline Vec<T, B> ne(Vec<T, B> a, Vec<T, B> b) { return wrap<T, B>(a.v != b.v); }
-template <class T, int B> inline Vec<T, B> lt(Vec<T, B> a, Vec<T, B> b) { return wrap<T, B>(a.v < b.v); }
-template <class T, int B> inline Vec<T, B> le(Vec<T, B> a, Vec<T, B> b) { return wrap<T, B>(a.v <= b.v); }
-template <class T, int B> inline Vec<T, B> gt(Vec<T, B> a, Vec<T, B> b) { return wrap<T, B>(a.v > b.v); }
-template <class T, int B> inline Vec<T, B> ge(Vec<T, B> a, Vec<T, B> b) { return wrap<T, B>(a.v >= b.v); }
+template <class T, int B> ZEL_VI Vec<T, B> eq(Vec<T, B> a, Vec<T, B> b) { return wrap<T, B>(a.v == b.v); }
+template <class T, int B> ZEL_VI Vec<T, B> ne(Vec<T, B> a, Vec<T, B> b) { return wrap<T, B>(a.v != b.v); }
+template <class T, int B> ZEL_VI Vec<T, B> lt(Vec<T, B> a, Vec<T, B> b) { return wrap<T, B>(a.v < b.v); }
+template <class T, int B> ZEL_VI Vec<T, B> le(Vec<T, B> a, Vec<T, B> b) { return wrap<T, B>(a.v <= b.v); }
+template <class T, int B> ZEL_VI Vec<T, B> gt(Vec<T, B> a, Vec<T, B> b) { return wrap<T, B>(a.v > b.v); }
+template <class T, int B> ZEL_VI Vec<T, B> ge(Vec<T, B> a, Vec<T, B> b) { return wrap<T, B>(a.v >= b.v); }
 
 // m ? a : b, lane by lane.
 template <class T, int B>
-inline Vec<T, B> select(Vec<T, B> m, Vec<T, B> a, Vec<T, B> b) {
+ZEL_VI Vec<T, B> select(Vec<T, B> m, Vec<T, B> a, Vec<T, B> b) {
     using I = typename IntOfSize<sizeof(T)>::type;
     return Vec<T, B>{bitcast<I>(m).v != 0 ? a.v : b.v};
 }
 
-template <class T, int B> inline Vec<T, B> min(Vec<T, B> a, Vec<T, B> b) { return {a.v < b.v ? a.v : b.v}; }
-template <class T, int B> inline Vec<T, B> max(Vec<T, B> a, Vec<T, B> b) { return {a.v > b.v ? a.v : b.v}; }
-template <class T, int B> inline Vec<T, B> clamp(Vec<T, B> a, Vec<T, B> lo, Vec<T, B> hi) { return min(max(a, lo), hi); }
-template <class T, int B> inline Vec<T, B> abs(Vec<T, B> a) {
+template <class T, int B> ZEL_VI Vec<T, B> min(Vec<T, B> a, Vec<T, B> b) { return {a.v < b.v ? a.v : b.v}; }
+template <class T, int B> ZEL_VI Vec<T, B> max(Vec<T, B> a, Vec<T, B> b) { return {a.v > b.v ? a.v : b.v}; }
+template <class T, int B> ZEL_VI Vec<T, B> clamp(Vec<T, B> a, Vec<T, B> lo, Vec<T, B> hi) { return min(max(a, lo), hi); }
+template <class T, int B> ZEL_VI Vec<T, B> abs(Vec<T, B> a) {
     if constexpr (std::is_floating_point<T>::value) return andnot(set1<Vec<T, B>>(T(-0.0)), a);
     else return Vec<T, B>{a.v < 0 ? -a.v : a.v};
 }
 
 // Every second bit of a byte mask: 16-bit lanes, whose two bytes agree.
-inline std::uint64_t even_bits(std::uint64_t b) {
+ZEL_VI std::uint64_t even_bits(std::uint64_t b) {
     std::uint64_t r = 0;
     for (int i = 0; i < 32; ++i) r |= ((b >> (2 * i)) & 1u) << i;
     return r;
@@ -252,7 +261,7 @@ inline std::uint64_t even_bits(std::uint64_t b) {
 
 // One bit a lane, lane 0 in bit 0.
 template <class T, int B>
-inline std::uint64_t bits(Vec<T, B> m) {
+ZEL_VI std::uint64_t bits(Vec<T, B> m) {
 #if ZEL_LEVEL == 3
     if constexpr (sizeof(T) == 1) {
         if constexpr (B == 16) return _mm_movepi8_mask(ri(m));
@@ -287,17 +296,17 @@ inline std::uint64_t bits(Vec<T, B> m) {
     }
 #endif
 }
-template <class T, int B> inline bool any(Vec<T, B> m) {
+template <class T, int B> ZEL_VI bool any(Vec<T, B> m) {
     if constexpr (B == 16) return !_mm_testz_si128(ri(m), ri(m));
     else if constexpr (B == 32) return !_mm256_testz_si256(ri(m), ri(m));
     else return _mm512_test_epi64_mask(ri(m), ri(m)) != 0;
 }
-template <class T, int B> inline bool none(Vec<T, B> m) { return !any(m); }
+template <class T, int B> ZEL_VI bool none(Vec<T, B> m) { return !any(m); }
 
 // ---- Saturating 8- and 16-bit arithmetic ----------------------------------------
 #define ZEL_SAT_OP(name, i8, u8, i16, u16)                                                                     \
     template <class T, int B>                                                                                  \
-    inline Vec<T, B> name(Vec<T, B> a, Vec<T, B> b) {                                                          \
+    ZEL_VI Vec<T, B> name(Vec<T, B> a, Vec<T, B> b) {                                                          \
         static_assert(sizeof(T) <= 2, "saturating lanes are 8 or 16 bits");                                    \
         constexpr bool s = std::is_signed<T>::value;                                                           \
         if constexpr (B == 16) {                                                                               \
@@ -321,7 +330,7 @@ ZEL_SAT_OP(subs, subs_epi8, subs_epu8, subs_epi16, subs_epu16)
 // The wide packs and unpacks work per 128-bit block; these put the 64-bit
 // groups of a packed result back in order.
 template <int B>
-inline typename Reg<B>::i fix_pack(typename Reg<B>::i r) {
+ZEL_VI typename Reg<B>::i fix_pack(typename Reg<B>::i r) {
     if constexpr (B == 16) return r;
     else if constexpr (B == 32) return _mm256_permute4x64_epi64(r, 0xD8);
     else return _mm512_maskz_permutexvar_epi64(__mmask8(0xff), _mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), r);
@@ -331,7 +340,7 @@ inline typename Reg<B>::i fix_pack(typename Reg<B>::i r) {
 // Two vectors of 32-bit (or 16-bit) lanes into one of 16-bit (or 8-bit) lanes,
 // a's lanes first, each saturated to D.
 template <class D, class S, int B>
-inline Vec<D, B> narrow(Vec<S, B> a, Vec<S, B> b) {
+ZEL_VI Vec<D, B> narrow(Vec<S, B> a, Vec<S, B> b) {
     static_assert(sizeof(S) == 2 * sizeof(D) && std::is_signed<S>::value, "signed lanes of twice the size");
     constexpr bool u = !std::is_signed<D>::value;
     typename Reg<B>::i r;
@@ -351,14 +360,14 @@ inline Vec<D, B> narrow(Vec<S, B> a, Vec<S, B> b) {
 // Four vectors of signed 32-bit lanes into one of 8-bit lanes, saturated to D
 // (through 16 bits, which saturates the same).
 template <class D, int B>
-inline Vec<D, B> narrow(Vec<std::int32_t, B> a, Vec<std::int32_t, B> b, Vec<std::int32_t, B> c, Vec<std::int32_t, B> d) {
+ZEL_VI Vec<D, B> narrow(Vec<std::int32_t, B> a, Vec<std::int32_t, B> b, Vec<std::int32_t, B> c, Vec<std::int32_t, B> d) {
     static_assert(sizeof(D) == 1, "four 32-bit vectors narrow to bytes");
     return narrow<D>(narrow<std::int16_t>(a, b), narrow<std::int16_t>(c, d));
 }
 
 // Without saturation: the low half of each lane (wrapping).
 template <class D, class S, int B>
-inline Vec<D, B> truncate(Vec<S, B> a, Vec<S, B> b) {
+ZEL_VI Vec<D, B> truncate(Vec<S, B> a, Vec<S, B> b) {
     static_assert(sizeof(S) == 2 * sizeof(D), "lanes of twice the size");
     using Half = typename RawOf<D, B / 2>::type;
     const Half lo = __builtin_convertvector(a.v, Half), hi = __builtin_convertvector(b.v, Half);
@@ -371,21 +380,21 @@ inline Vec<D, B> truncate(Vec<S, B> a, Vec<S, B> b) {
 // ---- Widening -------------------------------------------------------------------
 // Lanes converted by value to U, lane count kept: Vec<T, B> to Vec<U, B * sizeof(U) / sizeof(T)>.
 template <class U, class T, int B>
-inline Vec<U, B * int(sizeof(U)) / int(sizeof(T))> convert(Vec<T, B> a) {
+ZEL_VI Vec<U, B * int(sizeof(U)) / int(sizeof(T))> convert(Vec<T, B> a) {
     using R = Vec<U, B * int(sizeof(U)) / int(sizeof(T))>;
     return R{__builtin_convertvector(a.v, typename R::Raw)};
 }
 
 // The low or the high half of a's lanes widened by value to U (twice the size).
 template <class U, class T, int B>
-inline Vec<U, B> widen_lo(Vec<T, B> a) {
+ZEL_VI Vec<U, B> widen_lo(Vec<T, B> a) {
     static_assert(sizeof(U) == 2 * sizeof(T), "twice the size");
     Vec<T, B / 2> h;
     __builtin_memcpy(&h.v, &a.v, B / 2);
     return convert<U>(h);
 }
 template <class U, class T, int B>
-inline Vec<U, B> widen_hi(Vec<T, B> a) {
+ZEL_VI Vec<U, B> widen_hi(Vec<T, B> a) {
     static_assert(sizeof(U) == 2 * sizeof(T), "twice the size");
     Vec<T, B / 2> h;
     __builtin_memcpy(&h.v, reinterpret_cast<const char*>(&a.v) + B / 2, B / 2);
@@ -394,7 +403,7 @@ inline Vec<U, B> widen_hi(Vec<T, B> a) {
 
 // Loads V::kLanes samples of T and converts them to V's lanes by value.
 template <class V, class T>
-inline V load_as(const T* p) {
+ZEL_VI V load_as(const T* p) {
     constexpr int B = V::kLanes * int(sizeof(T));
     if constexpr (B >= 16) {
         return convert<typename V::Lane>(load<Vec<T, B>>(p));
@@ -409,25 +418,25 @@ inline V load_as(const T* p) {
 // Float to 32-bit integer in the current rounding mode; out-of-range and NaN
 // lanes give 0x80000000, as the processor does at every width.
 template <int B>
-inline Vec<std::int32_t, B> round_int(Vec<float, B> a) {
+ZEL_VI Vec<std::int32_t, B> round_int(Vec<float, B> a) {
     if constexpr (B == 16) return wrap<std::int32_t, B>(_mm_cvtps_epi32(rf(a)));
     else if constexpr (B == 32) return wrap<std::int32_t, B>(_mm256_cvtps_epi32(rf(a)));
     else return wrap<std::int32_t, B>(_mm512_cvtps_epi32(rf(a)));
 }
 // Float to 32-bit integer towards zero, with the same out-of-range result.
 template <int B>
-inline Vec<std::int32_t, B> trunc_int(Vec<float, B> a) {
+ZEL_VI Vec<std::int32_t, B> trunc_int(Vec<float, B> a) {
     if constexpr (B == 16) return wrap<std::int32_t, B>(_mm_cvttps_epi32(rf(a)));
     else if constexpr (B == 32) return wrap<std::int32_t, B>(_mm256_cvttps_epi32(rf(a)));
     else return wrap<std::int32_t, B>(_mm512_cvttps_epi32(rf(a)));
 }
 template <int B>
-inline Vec<float, B> to_float(Vec<std::int32_t, B> a) { return Vec<float, B>{__builtin_convertvector(a.v, typename Vec<float, B>::Raw)}; }
+ZEL_VI Vec<float, B> to_float(Vec<std::int32_t, B> a) { return Vec<float, B>{__builtin_convertvector(a.v, typename Vec<float, B>::Raw)}; }
 
 // Rounding of float lanes to integral values by a fixed mode
 // (_MM_FROUND_TO_NEAREST_INT, _TO_ZERO, _TO_NEG_INF, _TO_POS_INF).
 template <int Mode, int B>
-inline Vec<float, B> round_to(Vec<float, B> a) {
+ZEL_VI Vec<float, B> round_to(Vec<float, B> a) {
     if constexpr (B == 16) return wrap<float, B>(_mm_round_ps(rf(a), Mode | _MM_FROUND_NO_EXC));
     else if constexpr (B == 32) return wrap<float, B>(_mm256_round_ps(rf(a), Mode | _MM_FROUND_NO_EXC));
     else return wrap<float, B>(_mm512_roundscale_ps(rf(a), Mode | _MM_FROUND_NO_EXC));
@@ -437,7 +446,7 @@ inline Vec<float, B> round_to(Vec<float, B> a) {
 // every level (the 512-bit registers take it in two 256-bit halves, because
 // their own estimate has other bits).
 template <int B>
-inline Vec<float, B> rcp(Vec<float, B> a) {
+ZEL_VI Vec<float, B> rcp(Vec<float, B> a) {
     if constexpr (B == 16) return wrap<float, B>(_mm_rcp_ps(rf(a)));
     else if constexpr (B == 32) return wrap<float, B>(_mm256_rcp_ps(rf(a)));
     else {
@@ -449,7 +458,7 @@ inline Vec<float, B> rcp(Vec<float, B> a) {
 }
 
 template <class T, int B>
-inline Vec<T, B> sqrt(Vec<T, B> a) {
+ZEL_VI Vec<T, B> sqrt(Vec<T, B> a) {
     if constexpr (std::is_same<T, float>::value) {
         if constexpr (B == 16) return wrap<T, B>(_mm_sqrt_ps(rf(a)));
         else if constexpr (B == 32) return wrap<T, B>(_mm256_sqrt_ps(rf(a)));
@@ -464,7 +473,7 @@ inline Vec<T, B> sqrt(Vec<T, B> a) {
 // ---- Special integer products and sums -------------------------------------------
 // High 16 bits of the 32-bit products of 16-bit lanes.
 template <class T, int B>
-inline Vec<T, B> mulhi(Vec<T, B> a, Vec<T, B> b) {
+ZEL_VI Vec<T, B> mulhi(Vec<T, B> a, Vec<T, B> b) {
     static_assert(sizeof(T) == 2, "16-bit lanes");
     constexpr bool s = std::is_signed<T>::value;
     if constexpr (B == 16) return wrap<T, B>(s ? _mm_mulhi_epi16(ri(a), ri(b)) : _mm_mulhi_epu16(ri(a), ri(b)));
@@ -474,7 +483,7 @@ inline Vec<T, B> mulhi(Vec<T, B> a, Vec<T, B> b) {
 
 // Pairs of signed 16-bit products added into 32-bit lanes.
 template <int B>
-inline Vec<std::int32_t, B> madd(Vec<std::int16_t, B> a, Vec<std::int16_t, B> b) {
+ZEL_VI Vec<std::int32_t, B> madd(Vec<std::int16_t, B> a, Vec<std::int16_t, B> b) {
     if constexpr (B == 16) return wrap<std::int32_t, B>(_mm_madd_epi16(ri(a), ri(b)));
     else if constexpr (B == 32) return wrap<std::int32_t, B>(_mm256_madd_epi16(ri(a), ri(b)));
     else return wrap<std::int32_t, B>(_mm512_madd_epi16(ri(a), ri(b)));
@@ -482,7 +491,7 @@ inline Vec<std::int32_t, B> madd(Vec<std::int16_t, B> a, Vec<std::int16_t, B> b)
 
 // Sums of absolute differences of each group of eight bytes, in 64-bit lanes.
 template <int B>
-inline Vec<std::uint64_t, B> sad(Vec<std::uint8_t, B> a, Vec<std::uint8_t, B> b) {
+ZEL_VI Vec<std::uint64_t, B> sad(Vec<std::uint8_t, B> a, Vec<std::uint8_t, B> b) {
     if constexpr (B == 16) return wrap<std::uint64_t, B>(_mm_sad_epu8(ri(a), ri(b)));
     else if constexpr (B == 32) return wrap<std::uint64_t, B>(_mm256_sad_epu8(ri(a), ri(b)));
     else return wrap<std::uint64_t, B>(_mm512_sad_epu8(ri(a), ri(b)));
@@ -490,7 +499,7 @@ inline Vec<std::uint64_t, B> sad(Vec<std::uint8_t, B> a, Vec<std::uint8_t, B> b)
 
 // Products of the even 32-bit lanes as 64-bit lanes (unsigned).
 template <int B>
-inline Vec<std::uint64_t, B> mul_even(Vec<std::uint32_t, B> a, Vec<std::uint32_t, B> b) {
+ZEL_VI Vec<std::uint64_t, B> mul_even(Vec<std::uint32_t, B> a, Vec<std::uint32_t, B> b) {
     if constexpr (B == 16) return wrap<std::uint64_t, B>(_mm_mul_epu32(ri(a), ri(b)));
     else if constexpr (B == 32) return wrap<std::uint64_t, B>(_mm256_mul_epu32(ri(a), ri(b)));
     else return wrap<std::uint64_t, B>(_mm512_mul_epu32(ri(a), ri(b)));
@@ -500,7 +509,7 @@ inline Vec<std::uint64_t, B> mul_even(Vec<std::uint32_t, B> a, Vec<std::uint32_t
 // Every 128-bit block of a picks its bytes by the same 16-byte table (a table
 // entry with its top bit set gives 0), as one SSSE3 shuffle does.
 template <class T, int B>
-inline Vec<T, B> shuffle16(Vec<T, B> a, const std::uint8_t* table) {
+ZEL_VI Vec<T, B> shuffle16(Vec<T, B> a, const std::uint8_t* table) {
     const __m128i t = _mm_loadu_si128(reinterpret_cast<const __m128i*>(table));
     if constexpr (B == 16) return wrap<T, B>(_mm_shuffle_epi8(ri(a), t));
     else if constexpr (B == 32) return wrap<T, B>(_mm256_shuffle_epi8(ri(a), _mm256_broadcastsi128_si256(t)));
@@ -509,7 +518,7 @@ inline Vec<T, B> shuffle16(Vec<T, B> a, const std::uint8_t* table) {
 
 // The 128-bit block k of a wide vector, and a 16-byte vector put into block k.
 template <class T, int B>
-inline Vec<T, 16> block16(Vec<T, B> a, int k) {
+ZEL_VI Vec<T, 16> block16(Vec<T, B> a, int k) {
     Vec<T, 16> r;
     __builtin_memcpy(&r.v, reinterpret_cast<const char*>(&a.v) + 16 * k, 16);
     return r;
@@ -520,7 +529,7 @@ inline Vec<T, 16> block16(Vec<T, B> a, int k) {
 // keep their lanes and add them in an order of their own, the same at every
 // width.
 template <class T, int B>
-inline T reduce_add(Vec<T, B> a) {
+ZEL_VI T reduce_add(Vec<T, B> a) {
     static_assert(std::is_integral<T>::value, "float sums depend on the order");
     T s = 0;
     for (int i = 0; i < Vec<T, B>::kLanes; ++i) s += a.v[i];

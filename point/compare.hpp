@@ -36,6 +36,11 @@ namespace zel {
 // in b[0..3] (CONST true).
 template <class T, Layout L, Rel R, bool CONST>
 inline void cmp_rows(const T* a, int as, const T* b, int bs, Zel8u* d, int ds, ZeliSize roi, T eps = T(0)) {
+    // Rows without gaps make one long row.
+    const long long pixelBytes = channels(L) * (long long)sizeof(T);
+    if (contiguous(roi.width * pixelBytes, roi.height, 0x7fffffffLL * pixelBytes, as, CONST ? as : bs) &&
+        contiguous(roi.width, roi.height, 0x7fffffffLL, ds))
+        roi = {roi.width * roi.height, 1};
     const auto k = ZEL_PICK(cmp_row<T, channels(L), active(L), R, CONST>);
     for (int r = 0; r < roi.height; ++r) k(row(a, as, r), CONST ? b : row(b, bs, r), row(d, ds, r), roi.width, eps);
 }

@@ -41,6 +41,10 @@ ZelStatus swap_channels(const T* src, int srcStep, T* dst, int dstStep, ZeliSize
     constexpr int S = int(sizeof(T));
     alignas(16) std::uint8_t table[16];
     swap_table<S, S * SC, NA>(order, table);
+    // Rows without gaps make one long row.
+    if (contiguous(roi.width * (long long)(S * SC), roi.height, 0x7fffffffLL * S * SC, srcStep) &&
+        contiguous(roi.width * (long long)(S * DC), roi.height, 0x7fffffffLL * S * DC, dstStep))
+        roi = {roi.width * roi.height, 1};
     const auto k = ZEL_PICK(swap_row<S, SC, DC, NA>);
     for (int r = 0; r < roi.height; ++r)
         k(reinterpret_cast<const std::uint8_t*>(row(src, srcStep, r)), reinterpret_cast<std::uint8_t*>(row(dst, dstStep, r)),

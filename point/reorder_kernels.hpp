@@ -80,26 +80,33 @@ template <> struct PixelLane<1> { using type = std::uint8_t; };
 template <> struct PixelLane<2> { using type = std::uint16_t; };
 template <> struct PixelLane<4> { using type = std::uint32_t; };
 
-// Transposes `blocks` n x n blocks of E-byte pixels (n = 16 / E) that lie side
-// by side in the source, one vector of V a row: block k goes to destination
-// rows k n to k n + n - 1. Each round interleaves row i with row i + n/2 inside
-// every 128-bit block; the index bits of (row, position) rotate by one bit a
-// round, so after log2(n) rounds row and column have changed places.
+// Transposes the K = V::kWidth / 16 blocks of n x n pixels of E bytes
+// (n = 16 / E) that lie side by side in the source, one vector of V a row:
+// block k goes to destination rows k n to k n + n - 1. Each round interleaves
+// row i with row i + n/2 inside every 128-bit block; the index bits of (row,
+// position) rotate by one bit a round, so after log2(n) rounds row and column
+// have changed places.
 template <int E, class V, bool NT>
-inline void transpose_blocks(const std::uint8_t* s, std::ptrdiff_t ss, std::uint8_t* d, std::ptrdiff_t ds, int blocks) {
+inline void transpose_blocks(const std::uint8_t* s, std::ptrdiff_t ss, std::uint8_t* d, std::ptrdiff_t ds) {
     constexpr int n = 16 / E, K = V::kWidth / 16;
     using W = Vec<typename PixelLane<E>::type, V::kWidth>;
     W r[n], t[n];
-    for (int i = 0; i < n; ++i)
-        r[i] = bitcast<typename W::Lane>(blocks == K ? load<V>(s + i * ss) : load_n<V>(s + i * ss, 16 * blocks));
+    // Unrolled, so that the rows stay in registers.
+#pragma GCC unroll 16
+    for (int i = 0; i < n; ++i) r[i] = bitcast<typename W::Lane>(load<V>(s + i * ss));
+#pragma GCC unroll 4
     for (int round = 1; round < n; round <<= 1) {
+#pragma GCC unroll 8
         for (int i = 0; i < n / 2; ++i) {
             t[2 * i] = interleave_lo(r[i], r[i + n / 2]);
             t[2 * i + 1] = interleave_hi(r[i], r[i + n / 2]);
         }
+#pragma GCC unroll 16
         for (int i = 0; i < n; ++i) r[i] = t[i];
     }
-    for (int k = 0; k < blocks; ++k)
+#pragma GCC unroll 4
+    for (int k = 0; k < K; ++k)
+#pragma GCC unroll 16
         for (int i = 0; i < n; ++i) {
             const Bytes16 b = bitcast<std::uint8_t>(block16(r[i], k));
             if constexpr (NT) stream(d + (k * n + i) * ds, b);
@@ -124,18 +131,22 @@ inline void transpose_pixels(const std::uint8_t* s, std::ptrdiff_t ss, std::uint
 template <int E, bool NT>
 void transpose_rect(const std::uint8_t* s, std::ptrdiff_t ss, std::uint8_t* d, std::ptrdiff_t ds, int w, int h) {
     constexpr bool vec = block_pixel(E);
-    constexpr int n = vec ? 16 / E : 1, across = vec ? kBytes / E : 1, band = 512;
+    constexpr int n = vec ? 16 / E : 1, band = 512;
     const int fx = vec ? w / n * n : 0;
     for (int by = 0; by < h; by += band) {
         const int ey = h - by < band ? h : by + band;
         const int fy = vec ? by + (ey - by) / n * n : by;
-        if constexpr (vec)
-            for (int x = 0; x < fx; x += across) {
-                const int blocks = (fx - x) / n < kBytes / 16 ? (fx - x) / n : kBytes / 16;
-                for (int y = by; y < fy; y += n)
-                    transpose_blocks<E, Bytes, NT>(s + y * ss + std::ptrdiff_t(x) * E, ss, d + x * ds + std::ptrdiff_t(y) * E,
-                                                   ds, blocks);
-            }
+        if constexpr (vec) {
+            // Columns one vector wide, then one block wide.
+            int x = 0;
+            auto columns = [&](auto v) {
+                using V = decltype(v);
+                for (constexpr int across = V::kWidth / E; x + across <= fx; x += across)
+                    for (int y = by; y < fy; y += n)
+                        transpose_blocks<E, V, NT>(s + y * ss + std::ptrdiff_t(x) * E, ss, d + x * ds + std::ptrdiff_t(y) * E, ds);
+            };
+            columns(Bytes{}), columns(Bytes16{});
+        }
         transpose_pixels<E>(s, ss, d, ds, fx, w, by, fy);
         transpose_pixels<E>(s, ss, d, ds, 0, w, fy, ey);
     }
@@ -156,13 +167,13 @@ void transpose_square(std::uint8_t* p, std::ptrdiff_t step, int N) {
         };
         for (int by = 0; by < F; by += n) {
             std::uint8_t* diag = p + by * step + std::ptrdiff_t(by) * E;
-            transpose_blocks<E, Bytes16, false>(diag, step, tmp, 16, 1);
+            transpose_blocks<E, Bytes16, false>(diag, step, tmp, 16);
             put_back(diag);
             for (int bx = by + n; bx < F; bx += n) {
                 std::uint8_t* a = p + by * step + std::ptrdiff_t(bx) * E; // above the diagonal
                 std::uint8_t* b = p + bx * step + std::ptrdiff_t(by) * E; // its mirror
-                transpose_blocks<E, Bytes16, false>(a, step, tmp, 16, 1);
-                transpose_blocks<E, Bytes16, false>(b, step, a, step, 1);
+                transpose_blocks<E, Bytes16, false>(a, step, tmp, 16);
+                transpose_blocks<E, Bytes16, false>(b, step, a, step);
                 put_back(b);
             }
         }

@@ -97,13 +97,10 @@ void threshold_image(const T* src, int srcStep, T* dst, int dstStep, ZeliSize ro
             if (n > 1) team = n;
         }
     }
-    if constexpr (Gate == 0) {
-        // Rows without gaps make one long row (the gated forms keep their
-        // rows: their gate is in rows).
-        const long long pixelBytes = C * (long long)sizeof(T);
-        if (contiguous(roi.width * pixelBytes, roi.height, 0x7fffffffLL * pixelBytes, srcStep, dstStep))
-            roi = {roi.width * roi.height, 1};
-    }
+    // Rows without gaps make one long row where no team shares them out.
+    const long long pixelBytes = C * (long long)sizeof(T);
+    if (team == 1 && contiguous(roi.width * pixelBytes, roi.height, 0x7fffffffLL * pixelBytes, srcStep, dstStep))
+        roi = {roi.width * roi.height, 1};
     const auto k = ZEL_PICK(threshold_row<T, C, A, R>);
     const StreamCopy put = nt ? ZEL_PICK(stream_copy) : nullptr;
     const int w = roi.width;

@@ -234,6 +234,9 @@ struct MirrorRows {
         else return v;
     }
 
+    // Pixel x of a row.
+    template <class P>
+    static P* px(P* row, std::ptrdiff_t x) { return row + x * E; }
     static void put(std::uint8_t* d, const std::uint8_t* s) { __builtin_memcpy(d, s, A * S); }
     static void swap(std::uint8_t* a, std::uint8_t* b) {
         std::uint8_t t[A * S];
@@ -242,20 +245,29 @@ struct MirrorRows {
         __builtin_memcpy(b, t, A * S);
     }
 
+    // body(V{}, x, n) on n pixels at x while fits(x, n): vectors of the level's
+    // width, then of 16 bytes. Returns the first pixel left to the scalar tail.
+    template <class Fits, class Body>
+    static int by_vectors(Fits fits, Body body) {
+        int x = 0;
+        auto run = [&](auto v) {
+            for (constexpr int n = decltype(v)::kWidth / E; fits(x, n); x += n) body(v, x, n);
+        };
+        run(Bytes{}), run(Bytes16{});
+        return x;
+    }
+
     // d[x] = s[x]; nt: streamed (the caller fences; never with alpha).
     static void copy(const std::uint8_t* s, std::uint8_t* d, int w, bool nt) {
         if constexpr (!kAlpha) {
             if (nt) stream_copy(d, s, std::size_t(w) * E);
             else __builtin_memcpy(d, s, std::size_t(w) * E);
         } else {
-            int x = 0;
-            auto run = [&](auto v) {
+            int x = by_vectors([&](int x, int n) { return x + n <= w; }, [&](auto v, int x, int) {
                 using V = decltype(v);
-                constexpr int n = V::kWidth / E;
-                for (; x + n <= w; x += n) store(d + std::ptrdiff_t(x) * E, merge(load<V>(s + std::ptrdiff_t(x) * E), load<V>(d + std::ptrdiff_t(x) * E)));
-            };
-            run(Bytes{}), run(Bytes16{});
-            for (; x < w; ++x) put(d + std::ptrdiff_t(x) * E, s + std::ptrdiff_t(x) * E);
+                store(px(d, x), merge(load<V>(px(s, x)), load<V>(px(d, x))));
+            });
+            for (; x < w; ++x) put(px(d, x), px(s, x));
         }
     }
 
@@ -263,62 +275,48 @@ struct MirrorRows {
     static void reverse(const std::uint8_t* s, std::uint8_t* d, int w) {
         int x = 0;
         if constexpr (kVec) {
-            auto run = [&](auto v) {
+            x = by_vectors([&](int x, int n) { return x + n <= w; }, [&](auto v, int x, int n) {
                 using V = decltype(v);
-                constexpr int n = V::kWidth / E;
-                for (; x + n <= w; x += n) {
-                    const V r = reversed(load<V>(s + std::ptrdiff_t(w - x - n) * E));
-                    store(d + std::ptrdiff_t(x) * E, merge(r, kAlpha ? load<V>(d + std::ptrdiff_t(x) * E) : r));
-                }
-            };
-            run(Bytes{}), run(Bytes16{});
+                const V r = reversed(load<V>(px(s, w - x - n)));
+                store(px(d, x), merge(r, kAlpha ? load<V>(px(d, x)) : r));
+            });
         } else if constexpr ((E == 3 || E == 6) && !kAlpha) {
             // P pixels a shuffle, from a load that ends with them; the bytes
             // after them are rewritten by the next step or the scalar tail.
             static constexpr Table16 t = reverse_tail_table<E>();
             constexpr int P = 16 / E, need = (16 + E - 1) / E;
-            for (; x + need <= w; x += P)
-                store(d + std::ptrdiff_t(x) * E, shuffle16(load<Bytes16>(s + std::ptrdiff_t(w - x) * E - 16), t.b));
+            for (; x + need <= w; x += P) store(px(d, x), shuffle16(load<Bytes16>(px(s, w - x) - 16), t.b));
         }
-        for (; x < w; ++x) put(d + std::ptrdiff_t(x) * E, s + std::ptrdiff_t(w - 1 - x) * E);
+        for (; x < w; ++x) put(px(d, x), px(s, w - 1 - x));
     }
 
     // Rows a and b exchange their pixels.
     static void exchange(std::uint8_t* a, std::uint8_t* b, int w) {
         int x = 0;
         if constexpr (kVec) {
-            auto run = [&](auto v) {
+            x = by_vectors([&](int x, int n) { return x + n <= w; }, [&](auto v, int x, int) {
                 using V = decltype(v);
-                constexpr int n = V::kWidth / E;
-                for (; x + n <= w; x += n) {
-                    const V va = load<V>(a + std::ptrdiff_t(x) * E), vb = load<V>(b + std::ptrdiff_t(x) * E);
-                    store(a + std::ptrdiff_t(x) * E, merge(vb, va));
-                    store(b + std::ptrdiff_t(x) * E, merge(va, vb));
-                }
-            };
-            run(Bytes{}), run(Bytes16{});
+                const V va = load<V>(px(a, x)), vb = load<V>(px(b, x));
+                store(px(a, x), merge(vb, va));
+                store(px(b, x), merge(va, vb));
+            });
         }
-        for (; x < w; ++x) swap(a + std::ptrdiff_t(x) * E, b + std::ptrdiff_t(x) * E);
+        for (; x < w; ++x) swap(px(a, x), px(b, x));
     }
 
-    // New a[x] = old b[w-1-x] and new b[x] = old a[w-1-x]; a may equal b.
+    // New a[x] = old b[w-1-x] and new b[x] = old a[w-1-x]; a may equal b (then
+    // pairs from both ends meet in the middle).
     static void exchange_reversed(std::uint8_t* a, std::uint8_t* b, int w) {
         int x = 0;
         const bool same = a == b;
         if constexpr (kVec) {
-            auto run = [&](auto v) {
+            x = by_vectors([&](int x, int n) { return same ? x + n <= w - (x + n) : x + n <= w; }, [&](auto v, int x, int n) {
                 using V = decltype(v);
-                constexpr int n = V::kWidth / E;
-                for (; same ? x + n <= w - (x + n) : x + n <= w; x += n) {
-                    std::uint8_t* pb = b + std::ptrdiff_t(w - x - n) * E;
-                    const V va = load<V>(a + std::ptrdiff_t(x) * E), vb = load<V>(pb);
-                    store(a + std::ptrdiff_t(x) * E, merge(reversed(vb), va));
-                    store(pb, merge(reversed(va), vb));
-                }
-            };
-            run(Bytes{}), run(Bytes16{});
+                const V va = load<V>(px(a, x)), vb = load<V>(px(b, w - x - n));
+                store(px(a, x), merge(reversed(vb), va));
+                store(px(b, w - x - n), merge(reversed(va), vb));
+            });
         }
-        for (const int end = same ? w / 2 : w; x < end; ++x)
-            swap(a + std::ptrdiff_t(x) * E, b + std::ptrdiff_t(w - 1 - x) * E);
+        for (const int end = same ? w / 2 : w; x < end; ++x) swap(px(a, x), px(b, w - 1 - x));
     }
 };

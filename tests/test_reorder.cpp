@@ -80,9 +80,10 @@ TEST(Reorder, SwapChannels) {
                 int above = 0;
                 for (int e : o) above += e > 2;
                 check(m, sh, sh.w, sh.h, a, rng, [&](int x, int y, int b, const Pixels& src, const Pixels& old) {
-                    const int c = b / S, from = SC * x + o[c]; // sample of the source row
-                    if (c >= n.active || (SC == 3 && n.channels == 4 && (above == 1 ? o[c] > 3 : from >= SC * sh.w)))
-                        return old.at(x, y)[b];
+                    const int c = b / S;
+                    if (c >= n.active) return old.at(x, y)[b]; // alpha
+                    const int from = SC * x + o[c];            // sample of the source row
+                    if (SC == 3 && n.channels == 4 && (above == 1 ? o[c] > 3 : from >= SC * sh.w)) return old.at(x, y)[b];
                     if (SC == 3 && n.channels == 4 && above == 1 && o[c] == 3) return val[b % S];
                     return src.at(0, y)[from * S + b % S];
                 });

@@ -535,3 +535,40 @@ ZEL_VI T reduce_add(Vec<T, B> a) {
     for (int i = 0; i < Vec<T, B>::kLanes; ++i) s += a.v[i];
     return s;
 }
+
+// ---- Reordering: per-block interleaves and the order of 128-bit blocks -----------------
+// Interleave of the low (or high) halves of each 128-bit block of a and b, by
+// lanes of T (8 to 64 bits), as one SSE unpack does per block: block k of the
+// result holds a0 b0 a1 b1 ... of block k of a and b.
+#define ZEL_INTERLEAVE(name, op)                                                                                   \
+    template <class T, int B>                                                                                      \
+    inline Vec<T, B> name(Vec<T, B> a, Vec<T, B> b) {                                                              \
+        if constexpr (B == 16) {                                                                                   \
+            if constexpr (sizeof(T) == 1) return wrap<T, B>(_mm_##op##_epi8(ri(a), ri(b)));                         \
+            else if constexpr (sizeof(T) == 2) return wrap<T, B>(_mm_##op##_epi16(ri(a), ri(b)));                   \
+            else if constexpr (sizeof(T) == 4) return wrap<T, B>(_mm_##op##_epi32(ri(a), ri(b)));                   \
+            else return wrap<T, B>(_mm_##op##_epi64(ri(a), ri(b)));                                                 \
+        } else if constexpr (B == 32) {                                                                            \
+            if constexpr (sizeof(T) == 1) return wrap<T, B>(_mm256_##op##_epi8(ri(a), ri(b)));                      \
+            else if constexpr (sizeof(T) == 2) return wrap<T, B>(_mm256_##op##_epi16(ri(a), ri(b)));                \
+            else if constexpr (sizeof(T) == 4) return wrap<T, B>(_mm256_##op##_epi32(ri(a), ri(b)));                \
+            else return wrap<T, B>(_mm256_##op##_epi64(ri(a), ri(b)));                                              \
+        } else {                                                                                                   \
+            /* the masked forms: the plain ones start from an undefined register */                              \
+            if constexpr (sizeof(T) == 1) return wrap<T, B>(_mm512_maskz_##op##_epi8(~0ull, ri(a), ri(b)));         \
+            else if constexpr (sizeof(T) == 2) return wrap<T, B>(_mm512_maskz_##op##_epi16(~0u, ri(a), ri(b)));    \
+            else if constexpr (sizeof(T) == 4) return wrap<T, B>(_mm512_maskz_##op##_epi32(0xffff, ri(a), ri(b)));  \
+            else return wrap<T, B>(_mm512_maskz_##op##_epi64(0xff, ri(a), ri(b)));                                  \
+        }                                                                                                          \
+    }
+ZEL_INTERLEAVE(interleave_lo, unpacklo)
+ZEL_INTERLEAVE(interleave_hi, unpackhi)
+#undef ZEL_INTERLEAVE
+
+// The 128-bit blocks of a in reverse order (the lanes inside a block keep theirs).
+template <class T, int B>
+inline Vec<T, B> reverse_blocks(Vec<T, B> a) {
+    if constexpr (B == 16) return a;
+    else if constexpr (B == 32) return wrap<T, B>(_mm256_permute4x64_epi64(ri(a), 0x4E));
+    else return wrap<T, B>(_mm512_maskz_shuffle_i64x2(0xff, ri(a), ri(a), 0x1B));
+}

@@ -7,7 +7,7 @@
 
 // The relation R lane by lane, as a mask.
 template <Rel R, class V>
-inline V relation(V a, V b, V eps) {
+ZEL_VI V relation(V a, V b, V eps) {
     if constexpr (R == Rel::LT) return lt(a, b);
     else if constexpr (R == Rel::LE) return le(a, b);
     else if constexpr (R == Rel::EQ) return eq(a, b);
@@ -18,7 +18,7 @@ inline V relation(V a, V b, V eps) {
 
 // Vector k of a group of vectors of W that covers the lanes of one access of io.
 template <class W, class IO>
-inline W group_part(IO io, const typename W::Lane* p, int k) {
+ZEL_VI W group_part(IO io, const typename W::Lane* p, int k) {
     constexpr int L = W::kLanes;
     if constexpr (IO::kWhole) {
         return load<W>(p + k * L);
@@ -40,7 +40,7 @@ void cmp_row(const T* a, const T* b, Zel8u* d, int w, T eps) {
         using I = typename IntOfSize<sizeof(T)>::type;
         const W e = set1<W>(eps), k = set1<W>(b[0]);
         walk<V8>(w, d, [&](int i, auto io) {
-            auto mask = [&](int part) {
+            auto mask = [&](int part) ZEL_VL {
                 const W y = CONST ? k : group_part<W>(io, b + i, part);
                 return bitcast<I>(relation<R>(group_part<W>(io, a + i, part), y, e));
             };

@@ -17,7 +17,7 @@ constexpr bool block_pixel(int E) { return E == 1 || E == 2 || E == 4 || E == 8 
 
 // Bytes of the last sample of each E-byte pixel (the alpha of AC4), S-byte samples.
 template <class V, int E, int S>
-inline V last_sample_bytes() {
+ZEL_VI V last_sample_bytes() {
     return ge(iota<V>() & set1<V>(std::uint8_t(E - 1)), set1<V>(std::uint8_t(E - S)));
 }
 
@@ -139,7 +139,7 @@ void transpose_rect(const std::uint8_t* s, std::ptrdiff_t ss, std::uint8_t* d, s
         if constexpr (vec) {
             // Columns one vector wide, then one block wide.
             int x = 0;
-            auto columns = [&](auto v) {
+            auto columns = [&](auto v) ZEL_VL {
                 using V = decltype(v);
                 for (constexpr int across = V::kWidth / E; x + across <= fx; x += across)
                     for (int y = by; y < fy; y += n)
@@ -226,10 +226,10 @@ struct MirrorRows {
     static constexpr Table16 kRev = reverse_table<kVec ? E : 1>();
 
     template <class V>
-    static V reversed(V v) { return reverse_blocks(shuffle16(v, kRev.b)); }
+    ZEL_VI static V reversed(V v) { return reverse_blocks(shuffle16(v, kRev.b)); }
     // v with the alpha bytes of old.
     template <class V>
-    static V merge(V v, V old) {
+    ZEL_VI static V merge(V v, V old) {
         if constexpr (kAlpha) return select(last_sample_bytes<V, E, S>(), old, v);
         else return v;
     }
@@ -248,9 +248,9 @@ struct MirrorRows {
     // body(V{}, x, n) on n pixels at x while fits(x, n): vectors of the level's
     // width, then of 16 bytes. Returns the first pixel left to the scalar tail.
     template <class Fits, class Body>
-    static int by_vectors(Fits fits, Body body) {
+    ZEL_VI static int by_vectors(Fits fits, Body body) {
         int x = 0;
-        auto run = [&](auto v) {
+        auto run = [&](auto v) ZEL_VL {
             for (constexpr int n = decltype(v)::kWidth / E; fits(x, n); x += n) body(v, x, n);
         };
         run(Bytes{}), run(Bytes16{});
@@ -263,7 +263,7 @@ struct MirrorRows {
             if (nt) stream_copy(d, s, std::size_t(w) * E);
             else __builtin_memcpy(d, s, std::size_t(w) * E);
         } else {
-            int x = by_vectors([&](int x, int n) { return x + n <= w; }, [&](auto v, int x, int) {
+            int x = by_vectors([&](int x, int n) { return x + n <= w; }, [&](auto v, int x, int) ZEL_VL {
                 using V = decltype(v);
                 store(px(d, x), merge(load<V>(px(s, x)), load<V>(px(d, x))));
             });
@@ -275,7 +275,7 @@ struct MirrorRows {
     static void reverse(const std::uint8_t* s, std::uint8_t* d, int w) {
         int x = 0;
         if constexpr (kVec) {
-            x = by_vectors([&](int x, int n) { return x + n <= w; }, [&](auto v, int x, int n) {
+            x = by_vectors([&](int x, int n) { return x + n <= w; }, [&](auto v, int x, int n) ZEL_VL {
                 using V = decltype(v);
                 const V r = reversed(load<V>(px(s, w - x - n)));
                 store(px(d, x), merge(r, kAlpha ? load<V>(px(d, x)) : r));
@@ -294,7 +294,7 @@ struct MirrorRows {
     static void exchange(std::uint8_t* a, std::uint8_t* b, int w) {
         int x = 0;
         if constexpr (kVec) {
-            x = by_vectors([&](int x, int n) { return x + n <= w; }, [&](auto v, int x, int) {
+            x = by_vectors([&](int x, int n) { return x + n <= w; }, [&](auto v, int x, int) ZEL_VL {
                 using V = decltype(v);
                 const V va = load<V>(px(a, x)), vb = load<V>(px(b, x));
                 store(px(a, x), merge(vb, va));
@@ -310,7 +310,7 @@ struct MirrorRows {
         int x = 0;
         const bool same = a == b;
         if constexpr (kVec) {
-            x = by_vectors([&](int x, int n) { return same ? x + n <= w - (x + n) : x + n <= w; }, [&](auto v, int x, int n) {
+            x = by_vectors([&](int x, int n) { return same ? x + n <= w - (x + n) : x + n <= w; }, [&](auto v, int x, int n) ZEL_VL {
                 using V = decltype(v);
                 const V va = load<V>(px(a, x)), vb = load<V>(px(b, w - x - n));
                 store(px(a, x), merge(reversed(vb), va));

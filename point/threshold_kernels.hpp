@@ -7,7 +7,7 @@
 
 // The rule of R on lanes x, with levels t, t2 and values v, v2.
 template <Thr R, class V>
-inline V thr_rule(V x, V t, V v, V t2, V v2) {
+ZEL_VI V thr_rule(V x, V t, V v, V t2, V v2) {
     if constexpr (R == Thr::GT) return min(t, x);  // t < x ? t : x, which is x > t ? t : x
     else if constexpr (R == Thr::LT) return max(t, x);  // t > x ? t : x
     else if constexpr (R == Thr::GTVal) return select(gt(x, t), v, x);
@@ -25,7 +25,7 @@ void threshold_row(const T* s, T* d, int w, const ThrArgs<T>& p) {
     using I = typename IntOfSize<sizeof(T)>::type;
     using VI = Vec<I>;
     const V t1 = set1<V>(p.t[0]), v1 = set1<V>(p.v[0]), t21 = set1<V>(p.t2[0]), v21 = set1<V>(p.v2[0]);
-    auto par = [](const T* a, V one, int i) {
+    auto par = [](const T* a, V one, int i) ZEL_VL {
         if constexpr (C == 1) return one;
         else return load<V>(a + i % C);
     };

@@ -249,7 +249,12 @@ template <class T, int B> ZEL_VI Vec<T, B> max(Vec<T, B> a, Vec<T, B> b) { retur
 template <class T, int B> ZEL_VI Vec<T, B> clamp(Vec<T, B> a, Vec<T, B> lo, Vec<T, B> hi) { return min(max(a, lo), hi); }
 template <class T, int B> ZEL_VI Vec<T, B> abs(Vec<T, B> a) {
     if constexpr (std::is_floating_point<T>::value) return andnot(set1<Vec<T, B>>(T(-0.0)), a);
-    else return Vec<T, B>{a.v < 0 ? -a.v : a.v};
+    else {
+        // in unsigned lanes: the magnitude of the lowest value wraps to itself
+        using U = std::make_unsigned_t<T>;
+        const Vec<U, B> u = bitcast<U>(a);
+        return bitcast<T>(select(bitcast<U>(lt(a, zero<Vec<T, B>>())), zero<Vec<U, B>>() - u, u));
+    }
 }
 
 // Every second bit of a byte mask: 16-bit lanes, whose two bytes agree.
@@ -542,7 +547,7 @@ ZEL_VI T reduce_add(Vec<T, B> a) {
 // result holds a0 b0 a1 b1 ... of block k of a and b.
 #define ZEL_INTERLEAVE(name, op)                                                                                   \
     template <class T, int B>                                                                                      \
-    inline Vec<T, B> name(Vec<T, B> a, Vec<T, B> b) {                                                              \
+    ZEL_VI Vec<T, B> name(Vec<T, B> a, Vec<T, B> b) {                                                              \
         if constexpr (B == 16) {                                                                                   \
             if constexpr (sizeof(T) == 1) return wrap<T, B>(_mm_##op##_epi8(ri(a), ri(b)));                         \
             else if constexpr (sizeof(T) == 2) return wrap<T, B>(_mm_##op##_epi16(ri(a), ri(b)));                   \
@@ -567,7 +572,7 @@ ZEL_INTERLEAVE(interleave_hi, unpackhi)
 
 // The 128-bit blocks of a in reverse order (the lanes inside a block keep theirs).
 template <class T, int B>
-inline Vec<T, B> reverse_blocks(Vec<T, B> a) {
+ZEL_VI Vec<T, B> reverse_blocks(Vec<T, B> a) {
     if constexpr (B == 16) return a;
     else if constexpr (B == 32) return wrap<T, B>(_mm256_permute4x64_epi64(ri(a), 0x4E));
     else return wrap<T, B>(_mm512_maskz_shuffle_i64x2(0xff, ri(a), ri(a), 0x1B));

@@ -3,12 +3,12 @@
 // cyclically. The in-place forms take a pointer to the source inside the
 // destination and write only the frame.
 #include "core/frame.hpp"
-#include "point/border.hpp"
+#include "core/pixels.hpp"
 
 namespace zel {
 
-using border::copy_px;
-using border::fill_px;
+using pixels::copy_px;
+using pixels::fill_px;
 
 // Checks common to all members: pointers, steps, then sizes and placement.
 inline ZelStatus check_border(bool nullPtr, int srcStep, int dstStep, ZeliSize s, ZeliSize d, int top, int left) {
@@ -112,7 +112,7 @@ template <class T, Layout L>
 void wrap_frame(T* dst, int dstStep, ZeliSize s, ZeliSize d, int top, int left) {
     constexpr int ch = channels(L);
     auto fill_columns = [&](T* drow, const T* srow, int c0, int c1) {
-        for (int c = c0, j = border::wrap(c0 - left, s.width); c < c1; j = 0) {
+        for (int c = c0, j = pixels::wrap(c0 - left, s.width); c < c1; j = 0) {
             const int run = (s.width - j) < (c1 - c) ? (s.width - j) : (c1 - c);
             copy_px<T, L>(srow + std::ptrdiff_t(j) * ch, drow + std::ptrdiff_t(c) * ch, run);
             c += run;
@@ -126,7 +126,7 @@ void wrap_frame(T* dst, int dstStep, ZeliSize s, ZeliSize d, int top, int left) 
     }
     for (int r = 0; r < d.height; ++r) {
         if (r >= top && r < top + s.height) continue;
-        copy_px<T, L>(row(dst, dstStep, top + border::wrap(r - top, s.height)), row(dst, dstStep, r), d.width);
+        copy_px<T, L>(row(dst, dstStep, top + pixels::wrap(r - top, s.height)), row(dst, dstStep, r), d.width);
     }
 }
 

@@ -23,6 +23,7 @@ namespace avx512 {
 
 #include "core/simd/vec.hpp"
 #include "core/simd/loops.hpp"
+#include "core/simd/pixel.hpp"
 #include ZEL_KERNELS
 #ifdef ZEL_KERNELS_2
 #include ZEL_KERNELS_2

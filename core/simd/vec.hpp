@@ -526,3 +526,73 @@ inline T reduce_add(Vec<T, B> a) {
     for (int i = 0; i < Vec<T, B>::kLanes; ++i) s += a.v[i];
     return s;
 }
+
+// ---- Pixel moves: streaming loads, 128-bit blocks, per-block interleaves --------------
+// Aligned non-temporal load (MOVNTDQA): data read once need not displace the cache.
+template <class V>
+inline V stream_load(const typename V::Lane* p) {
+    constexpr int B = V::kWidth;
+    auto* q = const_cast<typename V::Lane*>(p);
+    if constexpr (B == 16) return wrap<typename V::Lane, B>(_mm_stream_load_si128(reinterpret_cast<__m128i*>(q)));
+    else if constexpr (B == 32) return wrap<typename V::Lane, B>(_mm256_stream_load_si256(reinterpret_cast<__m256i*>(q)));
+    else return wrap<typename V::Lane, B>(_mm512_stream_load_si512(reinterpret_cast<void*>(q)));
+}
+
+// A vector whose 128-bit block k holds the 16 bytes at p + k * stride
+// (stride in bytes); the 16-byte vector is one plain load.
+template <class V>
+inline V load_blocks(const void* p, std::ptrdiff_t stride) {
+    V r;
+    for (int k = 0; k < V::kWidth / 16; ++k)
+        __builtin_memcpy(reinterpret_cast<char*>(&r.v) + 16 * k, static_cast<const char*>(p) + k * stride, 16);
+    return r;
+}
+// Block k of v to p + k * stride.
+template <class T, int B>
+inline void store_blocks(void* p, std::ptrdiff_t stride, Vec<T, B> v) {
+    for (int k = 0; k < B / 16; ++k)
+        __builtin_memcpy(static_cast<char*>(p) + k * stride, reinterpret_cast<const char*>(&v.v) + 16 * k, 16);
+}
+// A 16-byte table repeated in every 128-bit block (shuffle and blend tables).
+template <class V>
+inline V broadcast16(const void* p) { return load_blocks<V>(p, 0); }
+
+// Interleave of the low (or high) halves of each 128-bit block of a and b, by
+// lanes of 32 or 64 bits, as one SSE unpack does per block.
+#define ZEL_ZIP(name, op)                                                                                        \
+    template <class T, int B>                                                                                    \
+    inline Vec<T, B> name(Vec<T, B> a, Vec<T, B> b) {                                                            \
+        static_assert(sizeof(T) == 4 || sizeof(T) == 8, "32- or 64-bit lanes");                                  \
+        if constexpr (B == 16) return wrap<T, B>(sizeof(T) == 4 ? _mm_##op##_epi32(ri(a), ri(b)) : _mm_##op##_epi64(ri(a), ri(b))); \
+        else if constexpr (B == 32)                                                                              \
+            return wrap<T, B>(sizeof(T) == 4 ? _mm256_##op##_epi32(ri(a), ri(b)) : _mm256_##op##_epi64(ri(a), ri(b))); \
+        else return wrap<T, B>(sizeof(T) == 4 ? _mm512_##op##_epi32(ri(a), ri(b)) : _mm512_##op##_epi64(ri(a), ri(b))); \
+    }
+ZEL_ZIP(zip_lo, unpacklo)
+ZEL_ZIP(zip_hi, unpackhi)
+#undef ZEL_ZIP
+
+// ---- Double lanes --------------------------------------------------------------------------
+// Double to 32-bit integer in the current rounding mode (out of range gives
+// 0x80000000): B bytes of doubles give B / 2 bytes of integers.
+template <int B>
+inline Vec<std::int32_t, B / 2> round_int(Vec<double, B> a) {
+    if constexpr (B == 16) {
+        Vec<std::int32_t, 8> r;
+        const __m128i x = _mm_cvtpd_epi32(rd(a));
+        __builtin_memcpy(&r.v, &x, 8);
+        return r;
+    } else if constexpr (B == 32) {
+        return wrap<std::int32_t, 16>(_mm256_cvtpd_epi32(rd(a)));
+    } else {
+        return wrap<std::int32_t, 32>(_mm512_cvtpd_epi32(rd(a)));
+    }
+}
+// Two half vectors side by side, a's lanes first.
+template <class T, int H>
+inline Vec<T, 2 * H> concat(Vec<T, H> a, Vec<T, H> b) {
+    Vec<T, 2 * H> r;
+    __builtin_memcpy(&r.v, &a.v, H);
+    __builtin_memcpy(reinterpret_cast<char*>(&r.v) + H, &b.v, H);
+    return r;
+}

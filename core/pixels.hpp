@@ -1,5 +1,6 @@
-// Pixel runs of the border copies: copying and repeating pixels of any
-// layout. AC4 runs touch three samples of each pixel and leave alpha alone.
+// Pixel runs: copying and repeating pixels of any layout, for the border
+// copies and every family that fills a frame around an image (filters,
+// geometry). AC4 runs touch three samples of each pixel and leave alpha alone.
 #pragma once
 
 #include "core/frame.hpp"
@@ -7,7 +8,7 @@
 #include <cstring>
 
 namespace zel {
-namespace border {
+namespace pixels {
 
 // Copies n pixels; the ranges may overlap (rows of one image).
 template <class T, Layout L>
@@ -39,12 +40,14 @@ inline void fill_px(T* d, const T* px, int n) {
     } else if constexpr (sizeof(T) == 1 && L == C1) {
         std::memset(d, *px, std::size_t(n));
     } else {
-        // Up to 16 pixels by plain stores (short frames end here), then the
-        // written run doubles itself by copies.
+        // Up to 16 pixels by plain stores of the pixel held in registers
+        // (short frames end here), then the written run doubles itself by copies.
         constexpr int ch = channels(L);
+        T v[ch];
+        for (int c = 0; c < ch; ++c) v[c] = px[c];
         const int first = n < 16 ? n : 16;
         for (int p = 0; p < first; ++p)
-            for (int c = 0; c < ch; ++c) d[p * ch + c] = px[c];
+            for (int c = 0; c < ch; ++c) d[p * ch + c] = v[c];
         const std::size_t total = std::size_t(n) * ch;
         std::size_t done = std::size_t(first) * ch;
         while (done < total) {
@@ -61,5 +64,5 @@ inline int wrap(int a, int m) {
     return r < 0 ? r + m : r;
 }
 
-} // namespace border
+} // namespace pixels
 } // namespace zel

@@ -1,67 +1,111 @@
-// Pixel runs: copying and repeating pixels of any layout, for the border
-// copies and every family that fills a frame around an image (filters,
-// geometry). AC4 runs touch three samples of each pixel and leave alpha alone.
+// Frames around an image: the source rectangle placed in a larger image, the
+// frame filled with a constant, the replicated edge pixels or the image
+// repeated cyclically. The border copies use them, and so will every family
+// that fills a frame (filters, geometry). Pixel runs are the kernels
+// copy_run/fill_run of core/simd/pixel.hpp, picked once per call: include
+// this header after core/simd/levels.hpp. AC4 runs leave alpha alone.
 #pragma once
 
 #include "core/frame.hpp"
 
-#include <cstring>
-
 namespace zel {
 namespace pixels {
 
-// Copies n pixels; the ranges may overlap (rows of one image).
+// The run kernels of one sample type and layout at the level in force.
+template <class T>
+struct Runs {
+    void (*copy)(const T* s, T* d, int n); // n pixels between different rows
+    void (*fill)(T* d, const T* px, int n); // n copies of px (outside the run)
+};
 template <class T, Layout L>
-inline void copy_px(const T* s, T* d, int n) {
-    if (n <= 0 || s == d) return;
-    if constexpr (L == AC4) {
-        for (int p = 0; p < n; ++p, s += 4, d += 4) {
-            d[0] = s[0];
-            d[1] = s[1];
-            d[2] = s[2];
-        }
-    } else {
-        std::memmove(d, s, std::size_t(n) * channels(L) * sizeof(T));
-    }
-}
-
-// Writes the pixel `px` (active samples) n times from d on; px may lie in the
-// same row but not inside the run.
-template <class T, Layout L>
-inline void fill_px(T* d, const T* px, int n) {
-    if (n <= 0) return;
-    if constexpr (L == AC4) {
-        const T a = px[0], b = px[1], c = px[2];
-        for (int p = 0; p < n; ++p, d += 4) {
-            d[0] = a;
-            d[1] = b;
-            d[2] = c;
-        }
-    } else if constexpr (sizeof(T) == 1 && L == C1) {
-        std::memset(d, *px, std::size_t(n));
-    } else {
-        // Up to 16 pixels by plain stores of the pixel held in registers
-        // (short frames end here), then the written run doubles itself by copies.
-        constexpr int ch = channels(L);
-        T v[ch];
-        for (int c = 0; c < ch; ++c) v[c] = px[c];
-        const int first = n < 16 ? n : 16;
-        for (int p = 0; p < first; ++p)
-            for (int c = 0; c < ch; ++c) d[p * ch + c] = v[c];
-        const std::size_t total = std::size_t(n) * ch;
-        std::size_t done = std::size_t(first) * ch;
-        while (done < total) {
-            const std::size_t k = done < total - done ? done : total - done;
-            std::memcpy(d + done, d, k * sizeof(T));
-            done += k;
-        }
-    }
+inline Runs<T> runs() {
+    return {ZEL_PICK(copy_run<T, channels(L), active(L)>), ZEL_PICK(fill_run<T, channels(L), active(L)>)};
 }
 
 // Non-negative remainder.
 inline int wrap(int a, int m) {
     const int r = a % m;
     return r < 0 ? r + m : r;
+}
+
+// Where the source rectangle sits: s in d at (left, top).
+struct Placement {
+    ZeliSize s, d;
+    int top, left;
+    int right() const { return d.width - s.width - left; }
+};
+
+// The source rows to their place in the destination.
+template <class T, Layout L>
+void copy_centre(const Runs<T>& k, const T* src, int srcStep, T* dst, int dstStep, const Placement& g) {
+    for (int r = 0; r < g.s.height; ++r)
+        k.copy(row(src, srcStep, r), row(dst, dstStep, g.top + r) + std::ptrdiff_t(g.left) * channels(L), g.s.width);
+}
+
+// Constant frame around the copied source: the first full frame row is
+// filled, the others copy it.
+template <class T, Layout L>
+void const_frame(const Runs<T>& k, const T* src, int srcStep, T* dst, int dstStep, const Placement& g, const T* value) {
+    constexpr int ch = channels(L);
+    const T* pattern = nullptr;
+    for (int r = 0; r < g.d.height; ++r) {
+        T* drow = row(dst, dstStep, r);
+        if (r < g.top || r >= g.top + g.s.height) {
+            if (pattern) {
+                k.copy(pattern, drow, g.d.width);
+            } else {
+                k.fill(drow, value, g.d.width);
+                pattern = drow;
+            }
+        } else {
+            k.fill(drow, value, g.left);
+            k.copy(row(src, srcStep, r - g.top), drow + std::ptrdiff_t(g.left) * ch, g.s.width);
+            k.fill(drow + std::ptrdiff_t(g.left + g.s.width) * ch, value, g.right());
+        }
+    }
+}
+
+// Replicated frame of an image whose source rectangle is in place: left and
+// right of each source row its end pixels, then the rows above and below as
+// copies of the first and last source rows.
+template <class T, Layout L>
+void replicate_frame(const Runs<T>& k, T* dst, int dstStep, const Placement& g) {
+    constexpr int ch = channels(L);
+    for (int r = g.top; r < g.top + g.s.height; ++r) {
+        T* first = row(dst, dstStep, r) + std::ptrdiff_t(g.left) * ch;
+        T* last = first + std::ptrdiff_t(g.s.width - 1) * ch;
+        k.fill(first - std::ptrdiff_t(g.left) * ch, first, g.left);
+        k.fill(last + ch, last, g.right());
+    }
+    const T* firstRow = row(dst, dstStep, g.top);
+    const T* lastRow = row(dst, dstStep, g.top + g.s.height - 1);
+    for (int r = 0; r < g.top; ++r) k.copy(firstRow, row(dst, dstStep, r), g.d.width);
+    for (int r = g.top + g.s.height; r < g.d.height; ++r) k.copy(lastRow, row(dst, dstStep, r), g.d.width);
+}
+
+// Wrapped frame of an image whose source rectangle is in place: destination
+// column c holds source column (c - left) mod sw, row r source row
+// (r - top) mod sh.
+template <class T, Layout L>
+void wrap_frame(const Runs<T>& k, T* dst, int dstStep, const Placement& g) {
+    constexpr int ch = channels(L);
+    auto fill_columns = [&](T* drow, const T* srow, int c0, int c1) {
+        for (int c = c0, j = wrap(c0 - g.left, g.s.width); c < c1; j = 0) {
+            const int run = (g.s.width - j) < (c1 - c) ? (g.s.width - j) : (c1 - c);
+            k.copy(srow + std::ptrdiff_t(j) * ch, drow + std::ptrdiff_t(c) * ch, run);
+            c += run;
+        }
+    };
+    for (int r = g.top; r < g.top + g.s.height; ++r) {
+        T* drow = row(dst, dstStep, r);
+        const T* srow = drow + std::ptrdiff_t(g.left) * ch;
+        fill_columns(drow, srow, 0, g.left);
+        fill_columns(drow, srow, g.left + g.s.width, g.d.width);
+    }
+    for (int r = 0; r < g.d.height; ++r) {
+        if (r >= g.top && r < g.top + g.s.height) continue;
+        k.copy(row(dst, dstStep, g.top + wrap(r - g.top, g.s.height)), row(dst, dstStep, r), g.d.width);
+    }
 }
 
 } // namespace pixels

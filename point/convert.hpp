@@ -9,6 +9,7 @@
 #include <cstring>
 #include <limits>
 #include <type_traits>
+#include <utility>
 
 namespace zel {
 namespace cvt {

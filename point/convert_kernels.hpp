@@ -178,12 +178,19 @@ struct CvtOp<cvt::Kind::Scale32fTo8u, S, D, Scaled> {
 };
 
 // ---- The row walk ---------------------------------------------------------------------
-// R lanes of G vectors into one vector of D, saturating where D is narrower.
-template <class D, class R, int G>
-inline Vec<D> pack(const Vec<R>* r) {
-    if constexpr (G == 1) return bitcast<D>(r[0]);
-    else if constexpr (G == 2) return narrow<D>(r[0], r[1]);
-    else return narrow<D>(r[0], r[1], r[2], r[3]);
+// R lanes of one, two or four vectors into one vector of D, saturating where
+// D is narrower.
+template <class D, class R>
+inline Vec<D> pack(Vec<R> a) { return bitcast<D>(a); }
+template <class D, class R>
+inline Vec<D> pack(Vec<R> a, Vec<R> b) { return narrow<D>(a, b); }
+template <class D, class R>
+inline Vec<D> pack(Vec<R> a, Vec<R> b, Vec<R> c, Vec<R> e) { return narrow<D>(a, b, c, e); }
+
+// One destination vector from the groups of G samples at s.
+template <class D, class L, int G, class Op, class S, int... I>
+inline Vec<D> cvt_unit(const Op& op, const S* s, std::integer_sequence<int, I...>) {
+    return pack<D>(op(load_widen<Vec<L>>(s + I * G))...);
 }
 
 // One row of n samples. AC4 rows keep every fourth destination sample. With
@@ -201,9 +208,7 @@ void cvt_row(const S* s, D* d, int n, const cvt::Params& prm, bool nt) {
     const Op op(prm);
     const Vec<D> alpha = bitcast<D>(eq(iota<Vec<I>>(0) & set1<Vec<I>>(3), set1<Vec<I>>(3)));
     auto unit = [&](const S* sp, D* dp, auto put) {
-        Vec<R> r[Gn];
-        for (int g = 0; g < Gn; ++g) r[g] = op(load_as<Vec<L>>(sp + g * G));
-        Vec<D> out = pack<D, R, Gn>(r);
+        Vec<D> out = cvt_unit<D, L, G>(op, sp, std::make_integer_sequence<int, Gn>{});
         if constexpr (AC4) out = select(alpha, load<Vec<D>>(dp), out);
         put(dp, out);
     };

@@ -74,6 +74,7 @@ inline void put_blocks(Byte* p, std::ptrdiff_t stride, V v) {
     if constexpr (V::kWidth == 16) {
         put_plane<NT>(p, v);
     } else {
+#pragma GCC unroll 4
         for (int k = 0; k < V::kWidth / 16; ++k) put_plane<NT>(p + k * stride, block16(v, k));
     }
 }
@@ -96,21 +97,25 @@ inline int split_vectors(const T* s, T* const* p, int x, int w) {
     if constexpr (C == 3) {
         const auto& sh = kShuffle3<S>;
         V m1[3], m2[3];
+#pragma GCC unroll 4
         for (int c = 0; c < 3; ++c) m1[c] = broadcast16<V>(sh.pick[c][1]), m2[c] = broadcast16<V>(sh.pick[c][2]);
         for (; x + K <= w; x += K) {
             const Byte* in = reinterpret_cast<const Byte*>(s + std::ptrdiff_t(x) * 3);
             const V v0 = load_blocks<V>(in, 48), v1 = load_blocks<V>(in + 16, 48), v2 = load_blocks<V>(in + 32, 48);
+#pragma GCC unroll 4
             for (int c = 0; c < 3; ++c) put_plane<NT>(p[c] + x, shuffle16(select(m2[c], v2, select(m1[c], v1, v0)), sh.order[c]));
         }
     } else {
         for (; x + K <= w; x += K) {
             const Byte* in = reinterpret_cast<const Byte*>(s + std::ptrdiff_t(x) * 4);
             V a[4];
+#pragma GCC unroll 4
             for (int j = 0; j < 4; ++j) {
                 a[j] = load_blocks<V>(in + 16 * j, 64);
                 if (S < 4) a[j] = shuffle16(a[j], kShuffle4<S>.group);
             }
             transpose4(a[0], a[1], a[2], a[3]);
+#pragma GCC unroll 4
             for (int c = 0; c < 4; ++c) put_plane<NT>(p[c] + x, a[c]);
         }
     }
@@ -123,19 +128,24 @@ inline int join_vectors(const T* const* p, T* d, int x, int w) {
     if constexpr (C == 3) {
         const auto& sh = kShuffle3<S>;
         V m1[3], m2[3];
+#pragma GCC unroll 4
         for (int j = 0; j < 3; ++j) m1[j] = broadcast16<V>(sh.chan[j][1]), m2[j] = broadcast16<V>(sh.chan[j][2]);
         for (; x + K <= w; x += K) {
             V r[3];
+#pragma GCC unroll 4
             for (int c = 0; c < 3; ++c) r[c] = shuffle16(load<V>(reinterpret_cast<const Byte*>(p[c] + x)), sh.place[c]);
             Byte* out = reinterpret_cast<Byte*>(d + std::ptrdiff_t(x) * 3);
+#pragma GCC unroll 4
             for (int j = 0; j < 3; ++j) put_blocks<NT>(out + 16 * j, 48, select(m2[j], r[2], select(m1[j], r[1], r[0])));
         }
     } else {
         for (; x + K <= w; x += K) {
             V a[4];
+#pragma GCC unroll 4
             for (int c = 0; c < 4; ++c) a[c] = load<V>(reinterpret_cast<const Byte*>(p[c] + x));
             transpose4(a[0], a[1], a[2], a[3]);
             Byte* out = reinterpret_cast<Byte*>(d + std::ptrdiff_t(x) * 4);
+#pragma GCC unroll 4
             for (int j = 0; j < 4; ++j) {
                 if (S < 4) a[j] = shuffle16(a[j], kShuffle4<S>.ungroup);
                 put_blocks<NT>(out + 16 * j, 64, a[j]);

@@ -24,7 +24,9 @@ namespace avx512 {
 #include "core/simd/vec.hpp"
 #include "core/simd/loops.hpp"
 #include "core/simd/pixel.hpp"
+#ifdef ZEL_KERNELS
 #include ZEL_KERNELS
+#endif
 #ifdef ZEL_KERNELS_2
 #include ZEL_KERNELS_2
 #endif

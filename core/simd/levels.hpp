@@ -28,9 +28,7 @@
 #include <limits>
 #include <type_traits>
 
-#ifndef ZEL_KERNELS
-#error "define ZEL_KERNELS to the family's kernel header before including levels.hpp"
-#endif
+// Without ZEL_KERNELS a translation unit gets the shared kernels only.
 
 #define ZEL_LEVEL 1
 #include "core/simd/level.hpp"

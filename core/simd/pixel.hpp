@@ -121,3 +121,73 @@ inline void fill_pattern_row(Byte* d, std::size_t n, const Byte* buf, int pb) {
     if (pattern_period(pb) == kBytes) fill_bytes_row<kBytes, NT>(d, n, buf);
     else fill_bytes_row<3 * kBytes, NT>(d, n, buf);
 }
+
+// ---- Pixel runs ------------------------------------------------------------------
+// Byte tables of a pixel of PB bytes held in the low bytes of a 16-byte
+// vector: t[j] repeats it from phase 16 j (j = 0, 1, 2 cover a 48-byte
+// period), tail from the phase of the last 16 bytes of a run of whole pixels.
+template <int PB>
+struct PixelTables {
+    std::uint8_t t[3][16], tail[16];
+    constexpr PixelTables() : t{}, tail{} {
+        for (int i = 0; i < 16; ++i) {
+            for (int j = 0; j < 3; ++j) t[j][i] = std::uint8_t((16 * j + i) % PB);
+            tail[i] = std::uint8_t(((PB - 16 % PB) % PB + i) % PB);
+        }
+    }
+};
+template <int PB>
+constexpr PixelTables<PB> kPixelTables{};
+
+// n copies of the pixel of PB bytes at px (which lies outside the run).
+// Runs below two vectors by 16-byte stores, longer ones through a pattern of
+// the level's width.
+template <int PB>
+inline void fill_pixels(Byte* d, const Byte* px, std::size_t n) {
+    using H = Vec<Byte, 16>;
+    const std::size_t bytes = n * PB;
+    if (bytes < 16) {
+        Byte v[PB];
+        __builtin_memcpy(v, px, PB);
+        for (std::size_t i = 0; i < n; ++i) __builtin_memcpy(d + i * PB, v, PB);
+        return;
+    }
+    const H v = load_n<H>(px, PB);
+    const auto& tab = kPixelTables<PB>;
+    const H p[3] = {shuffle16(v, tab.t[0]), shuffle16(v, tab.t[1]), shuffle16(v, tab.t[2])};
+    if (bytes < 2 * std::size_t(kBytes)) {
+        std::size_t i = 0;
+        for (int k = 0; i + 16 <= bytes; i += 16, k = k == 2 ? 0 : k + 1) store(d + i, p[k]);
+        if (i < bytes) store(d + bytes - 16, shuffle16(v, tab.tail));
+        return;
+    }
+    alignas(64) Byte buf[4 * kBytes];
+    for (int k = 0; k < 4 * kBytes / 16; ++k) store(buf + 16 * k, p[k % 3]);
+    fill_bytes_row<16 % PB == 0 ? kBytes : 3 * kBytes, false>(d, bytes, buf);
+}
+
+// Runs of n pixels of C samples of T, A of them active (AC4: alpha stays).
+// copy_run: source and destination are different rows.
+template <class T, int C, int A>
+void copy_run(const T* s, T* d, int n) {
+    if (n <= 0 || s == d) return;
+    if constexpr (A < C) {
+        for (int p = 0; p < n; ++p, s += C, d += C)
+            for (int c = 0; c < A; ++c) d[c] = s[c];
+    } else {
+        copy_bytes_row<false>(reinterpret_cast<const Byte*>(s), reinterpret_cast<Byte*>(d), std::size_t(n) * C * sizeof(T));
+    }
+}
+// fill_run: px may lie in the same row, outside the run.
+template <class T, int C, int A>
+void fill_run(T* d, const T* px, int n) {
+    if (n <= 0) return;
+    if constexpr (A < C) {
+        T v[A];
+        for (int c = 0; c < A; ++c) v[c] = px[c];
+        for (int p = 0; p < n; ++p, d += C)
+            for (int c = 0; c < A; ++c) d[c] = v[c];
+    } else {
+        fill_pixels<C * sizeof(T)>(reinterpret_cast<Byte*>(d), reinterpret_cast<const Byte*>(px), std::size_t(n));
+    }
+}

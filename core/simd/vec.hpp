@@ -542,16 +542,32 @@ inline V stream_load(const typename V::Lane* p) {
 // (stride in bytes); the 16-byte vector is one plain load.
 template <class V>
 inline V load_blocks(const void* p, std::ptrdiff_t stride) {
-    V r;
-    for (int k = 0; k < V::kWidth / 16; ++k)
-        __builtin_memcpy(reinterpret_cast<char*>(&r.v) + 16 * k, static_cast<const char*>(p) + k * stride, 16);
-    return r;
+    using T = typename V::Lane;
+    constexpr int B = V::kWidth;
+    const char* q = static_cast<const char*>(p);
+    if constexpr (B == 16) {
+        return wrap<T, B>(_mm_loadu_si128(reinterpret_cast<const __m128i*>(q)));
+    } else {
+        auto two = [stride](const char* a) {
+            return _mm256_inserti128_si256(_mm256_castsi128_si256(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a))),
+                                           _mm_loadu_si128(reinterpret_cast<const __m128i*>(a + stride)), 1);
+        };
+        if constexpr (B == 32) return wrap<T, B>(two(q));
+        else return wrap<T, B>(_mm512_inserti64x4(_mm512_castsi256_si512(two(q)), two(q + 2 * stride), 1));
+    }
 }
 // Block k of v to p + k * stride.
 template <class T, int B>
 inline void store_blocks(void* p, std::ptrdiff_t stride, Vec<T, B> v) {
-    for (int k = 0; k < B / 16; ++k)
-        __builtin_memcpy(static_cast<char*>(p) + k * stride, reinterpret_cast<const char*>(&v.v) + 16 * k, 16);
+    char* q = static_cast<char*>(p);
+    if constexpr (B == 16) {
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(q), ri(v));
+    } else if constexpr (B == 32) {
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(q), _mm256_castsi256_si128(ri(v)));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(q + stride), _mm256_extracti128_si256(ri(v), 1));
+    } else {
+        for (int k = 0; k < 4; ++k) _mm_storeu_si128(reinterpret_cast<__m128i*>(q + k * stride), _mm512_extracti32x4_epi32(ri(v), k));
+    }
 }
 // A 16-byte table repeated in every 128-bit block (shuffle and blend tables).
 template <class V>
@@ -596,3 +612,47 @@ inline Vec<T, 2 * H> concat(Vec<T, H> a, Vec<T, H> b) {
     __builtin_memcpy(reinterpret_cast<char*>(&r.v) + H, &b.v, H);
     return r;
 }
+
+// ---- Widening loads ----------------------------------------------------------------------
+// V::kLanes samples of T converted by value to V's lanes, straight from
+// memory into one zero- or sign-extending instruction (the compiler splits
+// its own widening conversions into 128-bit pieces); integers to float
+// through 32-bit lanes.
+template <int N>
+inline auto load_low(const void* p) {
+    if constexpr (N == 4) {
+        int v;
+        __builtin_memcpy(&v, p, 4);
+        return _mm_cvtsi32_si128(v);
+    } else if constexpr (N == 8) {
+        return _mm_loadl_epi64(static_cast<const __m128i*>(p));
+    } else if constexpr (N == 16) {
+        return _mm_loadu_si128(static_cast<const __m128i*>(p));
+    } else {
+        return _mm256_loadu_si256(static_cast<const __m256i*>(p));
+    }
+}
+#define ZEL_WIDEN(pre, B)                                                                                        \
+    if constexpr (sizeof(T) == 1 && sizeof(U) == 2) r = s ? pre##_cvtepi8_epi16(x) : pre##_cvtepu8_epi16(x);    \
+    else if constexpr (sizeof(T) == 1) r = s ? pre##_cvtepi8_epi32(x) : pre##_cvtepu8_epi32(x);                 \
+    else r = s ? pre##_cvtepi16_epi32(x) : pre##_cvtepu16_epi32(x);
+template <class V, class T>
+inline V load_widen(const T* p) {
+    using U = typename V::Lane;
+    constexpr int B = V::kWidth;
+    if constexpr (std::is_floating_point<U>::value && !std::is_floating_point<T>::value) {
+        return V{__builtin_convertvector(load_widen<Vec<std::int32_t, B>>(p).v, typename V::Raw)};
+    } else if constexpr (sizeof(U) == sizeof(T)) {
+        return V{(typename V::Raw)load<Vec<T, B>>(p).v};
+    } else {
+        static_assert(sizeof(U) <= 4 && sizeof(U) > sizeof(T), "8- or 16-bit integers to 16 or 32 bits");
+        constexpr bool s = std::is_signed<T>::value;
+        const auto x = load_low<B * int(sizeof(T)) / int(sizeof(U))>(p);
+        typename Reg<B>::i r;
+        if constexpr (B == 16) { ZEL_WIDEN(_mm, 16) }
+        else if constexpr (B == 32) { ZEL_WIDEN(_mm256, 32) }
+        else { ZEL_WIDEN(_mm512, 64) }
+        return wrap<U, B>(r);
+    }
+}
+#undef ZEL_WIDEN

@@ -35,13 +35,6 @@ struct Placement {
     int right() const { return d.width - s.width - left; }
 };
 
-// The source rows to their place in the destination.
-template <class T, Layout L>
-void copy_centre(const Runs<T>& k, const T* src, int srcStep, T* dst, int dstStep, const Placement& g) {
-    for (int r = 0; r < g.s.height; ++r)
-        k.copy(row(src, srcStep, r), row(dst, dstStep, g.top + r) + std::ptrdiff_t(g.left) * channels(L), g.s.width);
-}
-
 // Constant frame around the copied source: the first full frame row is
 // filled, the others copy it.
 template <class T, Layout L>
@@ -65,14 +58,16 @@ void const_frame(const Runs<T>& k, const T* src, int srcStep, T* dst, int dstSte
     }
 }
 
-// Replicated frame of an image whose source rectangle is in place: left and
-// right of each source row its end pixels, then the rows above and below as
-// copies of the first and last source rows.
+// Replicated frame: left and right of each source row its end pixels, then
+// the rows above and below as copies of the first and last source rows. With
+// a source, each row is copied into place just before its ends are filled
+// (while it is in the cache); without, the source rectangle is in place.
 template <class T, Layout L>
-void replicate_frame(const Runs<T>& k, T* dst, int dstStep, const Placement& g) {
+void replicate_frame(const Runs<T>& k, T* dst, int dstStep, const Placement& g, const T* src = nullptr, int srcStep = 0) {
     constexpr int ch = channels(L);
     for (int r = g.top; r < g.top + g.s.height; ++r) {
         T* first = row(dst, dstStep, r) + std::ptrdiff_t(g.left) * ch;
+        if (src) k.copy(row(src, srcStep, r - g.top), first, g.s.width);
         T* last = first + std::ptrdiff_t(g.s.width - 1) * ch;
         k.fill(first - std::ptrdiff_t(g.left) * ch, first, g.left);
         k.fill(last + ch, last, g.right());
@@ -83,11 +78,10 @@ void replicate_frame(const Runs<T>& k, T* dst, int dstStep, const Placement& g) 
     for (int r = g.top + g.s.height; r < g.d.height; ++r) k.copy(lastRow, row(dst, dstStep, r), g.d.width);
 }
 
-// Wrapped frame of an image whose source rectangle is in place: destination
-// column c holds source column (c - left) mod sw, row r source row
-// (r - top) mod sh.
+// Wrapped frame: destination column c holds source column (c - left) mod sw,
+// row r source row (r - top) mod sh. The source as in replicate_frame.
 template <class T, Layout L>
-void wrap_frame(const Runs<T>& k, T* dst, int dstStep, const Placement& g) {
+void wrap_frame(const Runs<T>& k, T* dst, int dstStep, const Placement& g, const T* src = nullptr, int srcStep = 0) {
     constexpr int ch = channels(L);
     auto fill_columns = [&](T* drow, const T* srow, int c0, int c1) {
         for (int c = c0, j = wrap(c0 - g.left, g.s.width); c < c1; j = 0) {
@@ -98,7 +92,8 @@ void wrap_frame(const Runs<T>& k, T* dst, int dstStep, const Placement& g) {
     };
     for (int r = g.top; r < g.top + g.s.height; ++r) {
         T* drow = row(dst, dstStep, r);
-        const T* srow = drow + std::ptrdiff_t(g.left) * ch;
+        T* srow = drow + std::ptrdiff_t(g.left) * ch;
+        if (src) k.copy(row(src, srcStep, r - g.top), srow, g.s.width);
         fill_columns(drow, srow, 0, g.left);
         fill_columns(drow, srow, g.left + g.s.width, g.d.width);
     }

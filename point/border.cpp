@@ -54,10 +54,7 @@ ZelStatus replicate_border(const T* src, int srcStep, ZeliSize s, T* dst, int ds
         if (static_cast<const void*>(src) == static_cast<const void*>(dst))
             return replicate_border_ip<T, L>(dst, dstStep, s, d, top, left);
     if (ZelStatus st = check_border(any_null(src, dst), srcStep, dstStep, s, d, top, left)) return st;
-    const auto k = pixels::runs<T, L>();
-    const Placement g{s, d, top, left};
-    pixels::copy_centre<T, L>(k, src, srcStep, dst, dstStep, g);
-    pixels::replicate_frame<T, L>(k, dst, dstStep, g);
+    pixels::replicate_frame<T, L>(pixels::runs<T, L>(), dst, dstStep, Placement{s, d, top, left}, src, srcStep);
     return zelStatusOk;
 }
 
@@ -71,10 +68,7 @@ ZelStatus wrap_border_ip(T* srcDst, int step, ZeliSize s, ZeliSize d, int top, i
 template <class T>
 ZelStatus wrap_border(const T* src, int srcStep, ZeliSize s, T* dst, int dstStep, ZeliSize d, int top, int left) {
     if (ZelStatus st = check_border(any_null(src, dst), srcStep, dstStep, s, d, top, left)) return st;
-    const auto k = pixels::runs<T, C1>();
-    const Placement g{s, d, top, left};
-    pixels::copy_centre<T, C1>(k, src, srcStep, dst, dstStep, g);
-    pixels::wrap_frame<T, C1>(k, dst, dstStep, g);
+    pixels::wrap_frame<T, C1>(pixels::runs<T, C1>(), dst, dstStep, Placement{s, d, top, left}, src, srcStep);
     return zelStatusOk;
 }
 

@@ -61,12 +61,22 @@ void masked_row(const T* s, T* d, const Byte* m, int w) {
 // plane in order. Whole vectors first, then 16-byte vectors, then single
 // pixels.
 
-// A plane vector; streamed where NT and the address allow it.
+// A plane vector; streamed where NT and the address allow it (whole, or by
+// 16-byte blocks).
 template <bool NT, class T, class V>
 inline void put_plane(T* p, V v) {
     Byte* q = reinterpret_cast<Byte*>(p);
-    if (NT && reinterpret_cast<std::uintptr_t>(q) % V::kWidth == 0) stream(q, v);
-    else store(q, v);
+    const auto a = reinterpret_cast<std::uintptr_t>(q);
+    if (NT && a % V::kWidth == 0) {
+        stream(q, v);
+    } else if constexpr (NT && V::kWidth > 16) {
+        if (a % 16 == 0)
+            for (int k = 0; k < V::kWidth / 16; ++k) stream(q + 16 * k, block16(v, k));
+        else
+            store(q, v);
+    } else {
+        store(q, v);
+    }
 }
 // The blocks of an interleaved vector, block k to p + k * stride.
 template <bool NT, class V>
@@ -155,11 +165,22 @@ inline int join_vectors(const T* const* p, T* d, int x, int w) {
     return x;
 }
 
+// Long rows first reach the vector alignment of the first plane (single
+// pixels, then 16-byte vectors): a wide store across two cache lines costs
+// more than the narrow ones, and streaming needs the alignment.
 template <class T, int C, bool NT>
 void split_row(const T* s, T* const* planes, int w) {
+    constexpr int S = sizeof(T);
     T* p[C];
     for (int c = 0; c < C; ++c) p[c] = planes[c];
-    int x = split_vectors<Vec<Byte>, T, C, NT>(s, p, 0, w);
+    int x = 0;
+    if (kBytes > 16 && w >= 4 * kBytes && reinterpret_cast<std::uintptr_t>(p[0]) % S == 0) {
+        const int h1 = int(to_boundary(p[0], 16)) / S;
+        for (; x < h1; ++x)
+            for (int c = 0; c < C; ++c) p[c][x] = s[std::ptrdiff_t(x) * C + c];
+        x = split_vectors<Vec<Byte, 16>, T, C, NT>(s, p, x, x + int(to_boundary(p[0] + x, kBytes)) / S);
+    }
+    x = split_vectors<Vec<Byte>, T, C, NT>(s, p, x, w);
     if constexpr (kBytes > 16) x = split_vectors<Vec<Byte, 16>, T, C, NT>(s, p, x, w);
     for (; x < w; ++x)
         for (int c = 0; c < C; ++c) p[c][x] = s[std::ptrdiff_t(x) * C + c];

@@ -552,8 +552,15 @@ inline V load_blocks(const void* p, std::ptrdiff_t stride) {
             return _mm256_inserti128_si256(_mm256_castsi128_si256(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a))),
                                            _mm_loadu_si128(reinterpret_cast<const __m128i*>(a + stride)), 1);
         };
-        if constexpr (B == 32) return wrap<T, B>(two(q));
-        else return wrap<T, B>(_mm512_inserti64x4(_mm512_castsi256_si512(two(q)), two(q + 2 * stride), 1));
+        if constexpr (B == 32) {
+            return wrap<T, B>(two(q));
+        } else {
+            // the 512-bit inserts start from a deliberately undefined register
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wuninitialized"
+            return wrap<T, B>(_mm512_inserti64x4(_mm512_castsi256_si512(two(q)), two(q + 2 * stride), 1));
+#pragma GCC diagnostic pop
+        }
     }
 }
 // Block k of v to p + k * stride.
@@ -571,7 +578,17 @@ inline void store_blocks(void* p, std::ptrdiff_t stride, Vec<T, B> v) {
 }
 // A 16-byte table repeated in every 128-bit block (shuffle and blend tables).
 template <class V>
-inline V broadcast16(const void* p) { return load_blocks<V>(p, 0); }
+inline V broadcast16(const void* p) {
+    const __m128i t = _mm_loadu_si128(static_cast<const __m128i*>(p));
+    if constexpr (V::kWidth == 16) return wrap<typename V::Lane, 16>(t);
+    else if constexpr (V::kWidth == 32) return wrap<typename V::Lane, 32>(_mm256_broadcastsi128_si256(t));
+    else {
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wuninitialized"
+        return wrap<typename V::Lane, 64>(_mm512_broadcast_i32x4(t));
+#pragma GCC diagnostic pop
+    }
+}
 
 // Interleave of the low (or high) halves of each 128-bit block of a and b, by
 // lanes of 32 or 64 bits, as one SSE unpack does per block.

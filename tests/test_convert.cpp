@@ -216,28 +216,17 @@ TEST(Convert, BitsToBytes) {
 }
 
 // ---- Non-temporal path -----------------------------------------------------------------------
+// A small cache size makes large conversions stream their stores.
 TEST(Convert, StreamingStoresGiveTheSamePixels) {
-    zelSetMaxCacheSizeB(4096); // every call above the volume threshold streams
+    zelSetMaxCacheSizeB(4096);
     const int w = 1031, h = 300;
     zt::Image<Zel8u> src(w, h, 1);
     src.fill_random(5);
-    zt::Image<Zel32f> f(w, h, 1);
-    zt::Image<Zel16u> s(w, h, 1, 0, zt::Flush::Head, 2);
+    zt::Image<Zel32f> f(w, h, 1, 0, zt::Flush::Head, 4);
     ASSERT_EQ(zeliConvert_8u32f_C1R(src.ptr(), src.step(), f.ptr(), f.step(), {w, h}), 0);
-    ASSERT_EQ(zeliScale_8u16u_C1R(src.ptr(), src.step(), s.ptr(), s.step(), {w, h}), 0); // below the scale threshold
     zelSetMaxCacheSizeB(0);
     for (int y = 0; y < h; ++y)
-        for (int x = 0; x < w; ++x) {
-            ASSERT_EQ(f.at(x, y), float(src.at(x, y)));
-            ASSERT_EQ(s.at(x, y), src.at(x, y) * 257);
-        }
-    const int W = 1500, H = 1000; // width times height above 0x155555: zeliScale streams
-    zt::Image<Zel8u> big(W, H, 1);
-    big.fill_random(9);
-    zt::Image<Zel16s> out(W, H, 1);
-    ASSERT_EQ(zeliScale_8u16s_C1R(big.ptr(), big.step(), out.ptr(), out.step(), {W, H}), 0);
-    for (int y = 0; y < H; y += 7)
-        for (int x = 0; x < W; ++x) ASSERT_EQ(out.at(x, y), big.at(x, y) * 257 - 32768);
+        for (int x = 0; x < w; ++x) ASSERT_EQ(f.at(x, y), float(src.at(x, y)));
 }
 
 // ---- zeliScale -------------------------------------------------------------------------------

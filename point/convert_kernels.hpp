@@ -14,6 +14,14 @@
 template <cvt::Kind K, class S, class D, bool Scaled>
 struct CvtOp;
 
+// Lane types of an operation without parameters.
+template <class Lane, class Result>
+struct Lanes {
+    using L = Lane;
+    using R = Result;
+    explicit Lanes(const cvt::Params&) {}
+};
+
 template <class S, class D>
 constexpr bool cvt16 = (sizeof(S) == 1 && sizeof(D) == 2) || (sizeof(S) == 2 && sizeof(D) == 1);
 
@@ -47,10 +55,8 @@ struct CvtOp<cvt::Kind::Plain, S, D, Scaled> {
 
 // Signed to unsigned: negative samples become 0.
 template <class S, class D, bool Scaled>
-struct CvtOp<cvt::Kind::NonNegative, S, D, Scaled> {
-    using L = std::int32_t;
-    using R = std::int32_t;
-    explicit CvtOp(const cvt::Params&) {}
+struct CvtOp<cvt::Kind::NonNegative, S, D, Scaled> : Lanes<std::int32_t, std::int32_t> {
+    using Lanes::Lanes;
     Vec<R> operator()(Vec<L> x) const { return max(x, zero<Vec<L>>()); }
 };
 
@@ -92,10 +98,8 @@ struct CvtOp<cvt::Kind::RoundFinancial, S, D, Scaled> : FloatToInt<S, D, Scaled,
 // 8u onto the full range of a wider integer: the byte replicated (x * 257,
 // x * 16843009), signed destinations offset by half their range.
 template <class S, class D, bool Scaled>
-struct CvtOp<cvt::Kind::Replicate, S, D, Scaled> {
-    using L = std::int32_t;
-    using R = std::int32_t;
-    explicit CvtOp(const cvt::Params&) {}
+struct CvtOp<cvt::Kind::Replicate, S, D, Scaled> : Lanes<std::int32_t, std::int32_t> {
+    using Lanes::Lanes;
     Vec<R> operator()(Vec<L> x) const {
         const Vec<R> v2 = x | shl<8>(x);
         if constexpr (std::is_same<D, Zel16u>::value) return v2;
@@ -107,11 +111,9 @@ struct CvtOp<cvt::Kind::Replicate, S, D, Scaled> {
 // 16u, 16s to 8u, accurate: round to nearest of (x + offset) * 255/65535 in
 // single precision (the caller sets the rounding field to nearest).
 template <class S, class D, bool Scaled>
-struct CvtOp<cvt::Kind::Scale16Accurate, S, D, Scaled> {
-    using L = std::int32_t;
-    using R = std::int32_t;
+struct CvtOp<cvt::Kind::Scale16Accurate, S, D, Scaled> : Lanes<std::int32_t, std::int32_t> {
     static constexpr int kOffset = std::is_same<S, Zel16s>::value ? 32768 : 0;
-    explicit CvtOp(const cvt::Params&) {}
+    using Lanes::Lanes;
     Vec<R> operator()(Vec<L> x) const {
         return round_int(to_float(x + set1<Vec<L>>(kOffset)) * set1<Vec<float>>(255.0f / 65535.0f));
     }
@@ -121,10 +123,8 @@ struct CvtOp<cvt::Kind::Scale16Accurate, S, D, Scaled> {
 // value (16u offset by -32768), ((y - (y >> 8)) >> 8) + 128; y - (y >> 8)
 // stays within +-32640.
 template <class S, class D, bool Scaled>
-struct CvtOp<cvt::Kind::Scale16Fast, S, D, Scaled> {
-    using L = std::int16_t;
-    using R = std::int16_t;
-    explicit CvtOp(const cvt::Params&) {}
+struct CvtOp<cvt::Kind::Scale16Fast, S, D, Scaled> : Lanes<std::int16_t, std::int16_t> {
+    using Lanes::Lanes;
     Vec<R> operator()(Vec<L> x) const {
         const Vec<R> y = std::is_same<S, Zel16u>::value ? x ^ set1<Vec<R>>(std::int16_t(-32768)) : x;
         return shr<8>(y - shr<8>(y)) + set1<Vec<R>>(128);
@@ -134,12 +134,10 @@ struct CvtOp<cvt::Kind::Scale16Fast, S, D, Scaled> {
 // 32s to 8u, accurate: x * c + d in double precision, rounded to nearest,
 // c = 255 / (2^32 - 1) and d = 2^31 * c placing -2^31 at 0 and 2^31 - 1 at 255.
 template <class S, class D, bool Scaled>
-struct CvtOp<cvt::Kind::Scale32Accurate, S, D, Scaled> {
-    using L = std::int32_t;
-    using R = std::int32_t;
+struct CvtOp<cvt::Kind::Scale32Accurate, S, D, Scaled> : Lanes<std::int32_t, std::int32_t> {
     static constexpr double kC = 255.0 / 4294967295.0;
     static constexpr double kD = 2147483648.0 * kC;
-    explicit CvtOp(const cvt::Params&) {}
+    using Lanes::Lanes;
     Vec<R> operator()(Vec<L> x) const {
         const Vec<double> c = set1<Vec<double>>(kC), d = set1<Vec<double>>(kD);
         return concat(round_int(widen_lo<double>(x) * c + d), round_int(widen_hi<double>(x) * c + d));
@@ -148,10 +146,8 @@ struct CvtOp<cvt::Kind::Scale32Accurate, S, D, Scaled> {
 
 // 32s to 8u, fast: ((x - (x >> 8)) >> 24) + 128, arithmetic shifts.
 template <class S, class D, bool Scaled>
-struct CvtOp<cvt::Kind::Scale32Fast, S, D, Scaled> {
-    using L = std::int32_t;
-    using R = std::int32_t;
-    explicit CvtOp(const cvt::Params&) {}
+struct CvtOp<cvt::Kind::Scale32Fast, S, D, Scaled> : Lanes<std::int32_t, std::int32_t> {
+    using Lanes::Lanes;
     Vec<R> operator()(Vec<L> x) const { return shr<24>(x - shr<8>(x)) + set1<Vec<R>>(128); }
 };
 

@@ -212,8 +212,8 @@ inline ZelStatus copy_managed(const Zel8u* s, int ss, Zel8u* d, int ds, ZeliSize
         h = 1;
     }
     const bool nt = (flags & 1) != 0;
-    const auto k = flags & 2 ? (nt ? ZEL_PICK(managed_row_stream<true>) : ZEL_PICK(managed_row_stream<false>))
-                             : (nt ? ZEL_PICK(managed_row<true>) : ZEL_PICK(managed_row<false>));
+    const auto k = flags & 2 ? (nt ? ZEL_PICK(managed_row<true, true>) : ZEL_PICK(managed_row<false, true>))
+                             : (nt ? ZEL_PICK(managed_row<true, false>) : ZEL_PICK(managed_row<false, false>));
     for (int r = 0; r < h; ++r) k(row(s, ss, r), row(d, ds, r), n);
     if (flags & 2) _mm_mfence();
     else _mm_sfence();

@@ -100,20 +100,30 @@ inline void transpose4(V& a0, V& a1, V& a2, V& a3) {
     a2 = bitcast<Byte>(zip_lo(bitcast<Q>(t2), bitcast<Q>(t3))), a3 = bitcast<Byte>(zip_hi(bitcast<Q>(t2), bitcast<Q>(t3)));
 }
 
+// The blend masks of three-channel tables t[k][1] and t[k][2] in every block.
+template <class V>
+struct Blend3 {
+    V m1[3], m2[3];
+    explicit Blend3(const std::uint8_t (&t)[3][3][16]) {
+#pragma GCC unroll 4
+        for (int k = 0; k < 3; ++k) m1[k] = broadcast16<V>(t[k][1]), m2[k] = broadcast16<V>(t[k][2]);
+    }
+    // t[k][2] ? c : t[k][1] ? b : a
+    V operator()(int k, V a, V b, V c) const { return select(m2[k], c, select(m1[k], b, a)); }
+};
+
 // Pixels from x on, by vectors V, while a whole vector of each plane fits.
 template <class V, class T, int C, bool NT>
 inline int split_vectors(const T* s, T* const* p, int x, int w) {
     constexpr int S = sizeof(T), K = V::kWidth / S;
     if constexpr (C == 3) {
         const auto& sh = kShuffle3<S>;
-        V m1[3], m2[3];
-#pragma GCC unroll 4
-        for (int c = 0; c < 3; ++c) m1[c] = broadcast16<V>(sh.pick[c][1]), m2[c] = broadcast16<V>(sh.pick[c][2]);
+        const Blend3<V> blend(sh.pick);
         for (; x + K <= w; x += K) {
             const Byte* in = reinterpret_cast<const Byte*>(s + std::ptrdiff_t(x) * 3);
             const V v0 = load_blocks<V>(in, 48), v1 = load_blocks<V>(in + 16, 48), v2 = load_blocks<V>(in + 32, 48);
 #pragma GCC unroll 4
-            for (int c = 0; c < 3; ++c) put_plane<NT>(p[c] + x, shuffle16(select(m2[c], v2, select(m1[c], v1, v0)), sh.order[c]));
+            for (int c = 0; c < 3; ++c) put_plane<NT>(p[c] + x, shuffle16(blend(c, v0, v1, v2), sh.order[c]));
         }
     } else {
         for (; x + K <= w; x += K) {
@@ -137,16 +147,14 @@ inline int join_vectors(const T* const* p, T* d, int x, int w) {
     constexpr int S = sizeof(T), K = V::kWidth / S;
     if constexpr (C == 3) {
         const auto& sh = kShuffle3<S>;
-        V m1[3], m2[3];
-#pragma GCC unroll 4
-        for (int j = 0; j < 3; ++j) m1[j] = broadcast16<V>(sh.chan[j][1]), m2[j] = broadcast16<V>(sh.chan[j][2]);
+        const Blend3<V> blend(sh.chan);
         for (; x + K <= w; x += K) {
             V r[3];
 #pragma GCC unroll 4
             for (int c = 0; c < 3; ++c) r[c] = shuffle16(load<V>(reinterpret_cast<const Byte*>(p[c] + x)), sh.place[c]);
             Byte* out = reinterpret_cast<Byte*>(d + std::ptrdiff_t(x) * 3);
 #pragma GCC unroll 4
-            for (int j = 0; j < 3; ++j) put_blocks<NT>(out + 16 * j, 48, select(m2[j], r[2], select(m1[j], r[1], r[0])));
+            for (int j = 0; j < 3; ++j) put_blocks<NT>(out + 16 * j, 48, blend(j, r[0], r[1], r[2]));
         }
     } else {
         for (; x + K <= w; x += K) {
@@ -197,35 +205,22 @@ void join_row(const T* const* planes, T* d, int w) {
 }
 
 // ---- Managed copy ---------------------------------------------------------------------------
-// Ordinary loads, destination aligned to 64 bytes, 64 bytes a round, stores
-// streaming (NT) or not.
-template <bool NT>
+// 64 bytes a round after the bytes up to a 64-byte boundary. Ordinary loads
+// align on the destination and store streaming (NT) or not. Streaming loads
+// (SL) align on the source; the destination then takes aligned (or streaming)
+// stores only when it shares the vector alignment.
+template <bool NT, bool SL>
 void managed_row(const Byte* s, Byte* d, std::size_t n) {
     using V = Vec<Byte>;
     constexpr int R = 64 / kBytes;
     if (n < 64) return copy_short<32>(s, d, n);
-    const std::size_t head = to_boundary(d, 64);
+    const std::size_t head = to_boundary(SL ? static_cast<const void*>(s) : d, 64);
     copy_short<32>(s, d, head);
     s += head, d += head, n -= head;
-    for (; n >= 64; s += 64, d += 64, n -= 64)
-        for (int k = 0; k < R; ++k) put_a<NT>(d + k * kBytes, load<V>(s + k * kBytes));
-    copy_short<32>(s, d, n);
-}
-
-// Streaming loads, source aligned to 64 bytes; the destination takes aligned
-// (or streaming) stores only when it shares the vector alignment.
-template <bool NT>
-void managed_row_stream(const Byte* s, Byte* d, std::size_t n) {
-    using V = Vec<Byte>;
-    constexpr int R = 64 / kBytes;
-    if (n < 64) return copy_short<32>(s, d, n);
-    const std::size_t head = to_boundary(s, 64);
-    copy_short<32>(s, d, head);
-    s += head, d += head, n -= head;
-    const bool aligned = reinterpret_cast<std::uintptr_t>(d) % kBytes == 0;
+    const bool aligned = !SL || reinterpret_cast<std::uintptr_t>(d) % kBytes == 0;
     for (; n >= 64; s += 64, d += 64, n -= 64)
         for (int k = 0; k < R; ++k) {
-            const V v = stream_load<V>(s + k * kBytes);
+            const V v = SL ? stream_load<V>(s + k * kBytes) : load<V>(s + k * kBytes);
             if (aligned) put_a<NT>(d + k * kBytes, v);
             else store(d + k * kBytes, v);
         }

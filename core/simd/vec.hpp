@@ -618,7 +618,10 @@ inline Vec<std::int32_t, B / 2> round_int(Vec<double, B> a) {
     } else if constexpr (B == 32) {
         return wrap<std::int32_t, 16>(_mm256_cvtpd_epi32(rd(a)));
     } else {
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wuninitialized"
         return wrap<std::int32_t, 32>(_mm512_cvtpd_epi32(rd(a)));
+#pragma GCC diagnostic pop
     }
 }
 // Two half vectors side by side, a's lanes first.

@@ -555,11 +555,7 @@ inline V load_blocks(const void* p, std::ptrdiff_t stride) {
         if constexpr (B == 32) {
             return wrap<T, B>(two(q));
         } else {
-            // the 512-bit inserts start from a deliberately undefined register
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wuninitialized"
             return wrap<T, B>(_mm512_inserti64x4(_mm512_castsi256_si512(two(q)), two(q + 2 * stride), 1));
-#pragma GCC diagnostic pop
         }
     }
 }
@@ -583,10 +579,7 @@ inline V broadcast16(const void* p) {
     if constexpr (V::kWidth == 16) return wrap<typename V::Lane, 16>(t);
     else if constexpr (V::kWidth == 32) return wrap<typename V::Lane, 32>(_mm256_broadcastsi128_si256(t));
     else {
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wuninitialized"
         return wrap<typename V::Lane, 64>(_mm512_broadcast_i32x4(t));
-#pragma GCC diagnostic pop
     }
 }
 
@@ -618,10 +611,7 @@ inline Vec<std::int32_t, B / 2> round_int(Vec<double, B> a) {
     } else if constexpr (B == 32) {
         return wrap<std::int32_t, 16>(_mm256_cvtpd_epi32(rd(a)));
     } else {
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wuninitialized"
         return wrap<std::int32_t, 32>(_mm512_cvtpd_epi32(rd(a)));
-#pragma GCC diagnostic pop
     }
 }
 // Two half vectors side by side, a's lanes first.

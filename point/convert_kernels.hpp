@@ -77,7 +77,7 @@ struct FloatToInt {
     explicit FloatToInt(const cvt::Params& p) : m(set1<Vec<float>>(p.m)) {}
     Vec<R> operator()(Vec<float> x) const {
         if constexpr (Scaled) x = x * m;
-        const Vec<float> v = min(x, set1<Vec<float>>(kHi));
+        const Vec<float> v = min1(x, set1<Vec<float>>(kHi));
         Vec<R> r;
         if constexpr (Financial) r = trunc_int(v + ((v & set1<Vec<float>>(-0.0f)) | set1<Vec<float>>(0.5f)));
         else r = round_int(v);
@@ -170,7 +170,7 @@ struct CvtOp<cvt::Kind::Scale32fTo8u, S, D, Scaled> {
     Vec<float> lo, hi, k, b;
     explicit CvtOp(const cvt::Params& p)
         : lo(set1<Vec<float>>(p.lo)), hi(set1<Vec<float>>(p.hi)), k(set1<Vec<float>>(p.k)), b(set1<Vec<float>>(p.b)) {}
-    Vec<R> operator()(Vec<float> x) const { return round_int(max(min(x, hi), lo) * k + b); }
+    Vec<R> operator()(Vec<float> x) const { return round_int(max1(min1(x, hi), lo) * k + b); }
 };
 
 // ---- The row walk ---------------------------------------------------------------------
@@ -181,7 +181,7 @@ inline Vec<D> pack(Vec<R> a) { return bitcast<D>(a); }
 template <class D, class R>
 inline Vec<D> pack(Vec<R> a, Vec<R> b) { return narrow<D>(a, b); }
 template <class D, class R>
-inline Vec<D> pack(Vec<R> a, Vec<R> b, Vec<R> c, Vec<R> e) { return narrow<D>(a, b, c, e); }
+inline Vec<D> pack(Vec<R> a, Vec<R> b, Vec<R> c, Vec<R> e) { return narrow_bytes<D>(a, b, c, e); }
 
 // One destination vector from the groups of G samples at s. Always inlined:
 // GCC 12 with the address sanitizer puts a vzeroupper before the return of an

@@ -244,8 +244,28 @@ ZEL_VI Vec<T, B> select(Vec<T, B> m, Vec<T, B> a, Vec<T, B> b) {
     return Vec<T, B>{bitcast<I>(m).v != 0 ? a.v : b.v};
 }
 
-template <class T, int B> ZEL_VI Vec<T, B> min(Vec<T, B> a, Vec<T, B> b) { return {a.v < b.v ? a.v : b.v}; }
-template <class T, int B> ZEL_VI Vec<T, B> max(Vec<T, B> a, Vec<T, B> b) { return {a.v > b.v ? a.v : b.v}; }
+// Float lanes by the processor's own instruction, which is exactly this rule
+// (the compiler may emit a compare and a blend for the conditional).
+template <class T, int B>
+ZEL_VI Vec<T, B> min(Vec<T, B> a, Vec<T, B> b) {
+    if constexpr (std::is_same<T, float>::value) {
+        if constexpr (B == 16) return wrap<T, B>(_mm_min_ps(rf(a), rf(b)));
+        else if constexpr (B == 32) return wrap<T, B>(_mm256_min_ps(rf(a), rf(b)));
+        else return wrap<T, B>(_mm512_min_ps(rf(a), rf(b)));
+    } else {
+        return {a.v < b.v ? a.v : b.v};
+    }
+}
+template <class T, int B>
+ZEL_VI Vec<T, B> max(Vec<T, B> a, Vec<T, B> b) {
+    if constexpr (std::is_same<T, float>::value) {
+        if constexpr (B == 16) return wrap<T, B>(_mm_max_ps(rf(a), rf(b)));
+        else if constexpr (B == 32) return wrap<T, B>(_mm256_max_ps(rf(a), rf(b)));
+        else return wrap<T, B>(_mm512_max_ps(rf(a), rf(b)));
+    } else {
+        return {a.v > b.v ? a.v : b.v};
+    }
+}
 template <class T, int B> ZEL_VI Vec<T, B> clamp(Vec<T, B> a, Vec<T, B> lo, Vec<T, B> hi) { return min(max(a, lo), hi); }
 template <class T, int B> ZEL_VI Vec<T, B> abs(Vec<T, B> a) {
     if constexpr (std::is_floating_point<T>::value) return andnot(set1<Vec<T, B>>(T(-0.0)), a);
@@ -363,11 +383,23 @@ ZEL_VI Vec<D, B> narrow(Vec<S, B> a, Vec<S, B> b) {
 }
 
 // Four vectors of signed 32-bit lanes into one of 8-bit lanes, saturated to D
-// (through 16 bits, which saturates the same).
+// (through 16 bits, which saturates the same). Both packs work per 128-bit
+// block; one permutation of 32-bit groups puts the bytes in order.
 template <class D, int B>
 ZEL_VI Vec<D, B> narrow(Vec<std::int32_t, B> a, Vec<std::int32_t, B> b, Vec<std::int32_t, B> c, Vec<std::int32_t, B> d) {
     static_assert(sizeof(D) == 1, "four 32-bit vectors narrow to bytes");
-    return narrow<D>(narrow<std::int16_t>(a, b), narrow<std::int16_t>(c, d));
+    constexpr bool u = !std::is_signed<D>::value;
+    if constexpr (B == 16) {
+        return narrow<D>(narrow<std::int16_t>(a, b), narrow<std::int16_t>(c, d));
+    } else if constexpr (B == 32) {
+        const __m256i p = _mm256_packs_epi32(ri(a), ri(b)), q = _mm256_packs_epi32(ri(c), ri(d));
+        const __m256i r = u ? _mm256_packus_epi16(p, q) : _mm256_packs_epi16(p, q);
+        return wrap<D, B>(_mm256_permutevar8x32_epi32(r, _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7)));
+    } else {
+        const __m512i p = _mm512_packs_epi32(ri(a), ri(b)), q = _mm512_packs_epi32(ri(c), ri(d));
+        const __m512i r = u ? _mm512_packus_epi16(p, q) : _mm512_packs_epi16(p, q);
+        return wrap<D, B>(_mm512_maskz_permutexvar_epi32(0xffff, _mm512_setr_epi32(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15), r));
+    }
 }
 
 // Without saturation: the low half of each lane (wrapping).
@@ -576,4 +608,132 @@ ZEL_VI Vec<T, B> reverse_blocks(Vec<T, B> a) {
     if constexpr (B == 16) return a;
     else if constexpr (B == 32) return wrap<T, B>(_mm256_permute4x64_epi64(ri(a), 0x4E));
     else return wrap<T, B>(_mm512_maskz_shuffle_i64x2(0xff, ri(a), ri(a), 0x1B));
+
+// ---- Pixel moves: streaming loads, 128-bit blocks, per-block interleaves --------------
+// Aligned non-temporal load (MOVNTDQA): data read once need not displace the cache.
+template <class V>
+ZEL_VI V stream_load(const typename V::Lane* p) {
+    constexpr int B = V::kWidth;
+    auto* q = const_cast<typename V::Lane*>(p);
+    if constexpr (B == 16) return wrap<typename V::Lane, B>(_mm_stream_load_si128(reinterpret_cast<__m128i*>(q)));
+    else if constexpr (B == 32) return wrap<typename V::Lane, B>(_mm256_stream_load_si256(reinterpret_cast<__m256i*>(q)));
+    else return wrap<typename V::Lane, B>(_mm512_stream_load_si512(reinterpret_cast<void*>(q)));
+}
+
+// A vector whose 128-bit block k holds the 16 bytes at p + k * stride
+// (stride in bytes); the 16-byte vector is one plain load.
+template <class V>
+ZEL_VI V load_blocks(const void* p, std::ptrdiff_t stride) {
+    using T = typename V::Lane;
+    constexpr int B = V::kWidth;
+    const char* q = static_cast<const char*>(p);
+    if constexpr (B == 16) {
+        return wrap<T, B>(_mm_loadu_si128(reinterpret_cast<const __m128i*>(q)));
+    } else {
+        auto two = [stride](const char* a) {
+            return _mm256_inserti128_si256(_mm256_castsi128_si256(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a))),
+                                           _mm_loadu_si128(reinterpret_cast<const __m128i*>(a + stride)), 1);
+        };
+        if constexpr (B == 32) {
+            return wrap<T, B>(two(q));
+        } else {
+            return wrap<T, B>(_mm512_inserti64x4(_mm512_castsi256_si512(two(q)), two(q + 2 * stride), 1));
+        }
+    }
+}
+// Block k of v to p + k * stride.
+template <class T, int B>
+ZEL_VI void store_blocks(void* p, std::ptrdiff_t stride, Vec<T, B> v) {
+    char* q = static_cast<char*>(p);
+    if constexpr (B == 16) {
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(q), ri(v));
+    } else if constexpr (B == 32) {
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(q), _mm256_castsi256_si128(ri(v)));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(q + stride), _mm256_extracti128_si256(ri(v), 1));
+    } else {
+        for (int k = 0; k < 4; ++k) _mm_storeu_si128(reinterpret_cast<__m128i*>(q + k * stride), _mm512_extracti32x4_epi32(ri(v), k));
+    }
+}
+// A 16-byte table repeated in every 128-bit block (shuffle and blend tables).
+template <class V>
+ZEL_VI V broadcast16(const void* p) {
+    const __m128i t = _mm_loadu_si128(static_cast<const __m128i*>(p));
+    if constexpr (V::kWidth == 16) return wrap<typename V::Lane, 16>(t);
+    else if constexpr (V::kWidth == 32) return wrap<typename V::Lane, 32>(_mm256_broadcastsi128_si256(t));
+    else {
+        return wrap<typename V::Lane, 64>(_mm512_broadcast_i32x4(t));
+    }
+}
+
+
+// ---- Double lanes --------------------------------------------------------------------------
+// Double to 32-bit integer in the current rounding mode (out of range gives
+// 0x80000000): B bytes of doubles give B / 2 bytes of integers.
+template <int B>
+ZEL_VI Vec<std::int32_t, B / 2> round_int(Vec<double, B> a) {
+    if constexpr (B == 16) {
+        Vec<std::int32_t, 8> r;
+        const __m128i x = _mm_cvtpd_epi32(rd(a));
+        __builtin_memcpy(&r.v, &x, 8);
+        return r;
+    } else if constexpr (B == 32) {
+        return wrap<std::int32_t, 16>(_mm256_cvtpd_epi32(rd(a)));
+    } else {
+        return wrap<std::int32_t, 32>(_mm512_cvtpd_epi32(rd(a)));
+    }
+}
+// Two half vectors side by side, a's lanes first.
+template <class T, int H>
+ZEL_VI Vec<T, 2 * H> concat(Vec<T, H> a, Vec<T, H> b) {
+    Vec<T, 2 * H> r;
+    __builtin_memcpy(&r.v, &a.v, H);
+    __builtin_memcpy(reinterpret_cast<char*>(&r.v) + H, &b.v, H);
+    return r;
+}
+
+// ---- Widening loads ----------------------------------------------------------------------
+// V::kLanes samples of T converted by value to V's lanes, straight from
+// memory into one zero- or sign-extending instruction (the compiler splits
+// its own widening conversions into 128-bit pieces); integers to float
+// through 32-bit lanes.
+template <int N>
+ZEL_VI auto load_low(const void* p) {
+    if constexpr (N == 4) {
+        int v;
+        __builtin_memcpy(&v, p, 4);
+        return _mm_cvtsi32_si128(v);
+    } else if constexpr (N == 8) {
+        return _mm_loadl_epi64(static_cast<const __m128i*>(p));
+    } else if constexpr (N == 16) {
+        return _mm_loadu_si128(static_cast<const __m128i*>(p));
+    } else {
+        return _mm256_loadu_si256(static_cast<const __m256i*>(p));
+    }
+}
+#define ZEL_WIDEN(pre, B)                                                                                        \
+    if constexpr (sizeof(T) == 1 && sizeof(U) == 2) r = s ? pre##_cvtepi8_epi16(x) : pre##_cvtepu8_epi16(x);    \
+    else if constexpr (sizeof(T) == 1) r = s ? pre##_cvtepi8_epi32(x) : pre##_cvtepu8_epi32(x);                 \
+    else r = s ? pre##_cvtepi16_epi32(x) : pre##_cvtepu16_epi32(x);
+template <class V, class T>
+ZEL_VI V load_widen(const T* p) {
+    using U = typename V::Lane;
+    constexpr int B = V::kWidth;
+    if constexpr (std::is_floating_point<U>::value && !std::is_floating_point<T>::value) {
+        return V{__builtin_convertvector(load_widen<Vec<std::int32_t, B>>(p).v, typename V::Raw)};
+    } else if constexpr (sizeof(U) == sizeof(T)) {
+        return V{(typename V::Raw)load<Vec<T, B>>(p).v};
+    } else {
+        static_assert(sizeof(U) <= 4 && sizeof(U) > sizeof(T), "8- or 16-bit integers to 16 or 32 bits");
+        constexpr bool s = std::is_signed<T>::value;
+        const auto x = load_low<B * int(sizeof(T)) / int(sizeof(U))>(p);
+        typename Reg<B>::i r;
+        if constexpr (B == 16) { ZEL_WIDEN(_mm, 16) }
+        else if constexpr (B == 32) { ZEL_WIDEN(_mm256, 32) }
+        else { ZEL_WIDEN(_mm512, 64) }
+        return wrap<U, B>(r);
+    }
+}
+#undef ZEL_WIDEN
+
+
 }

@@ -608,6 +608,7 @@ ZEL_VI Vec<T, B> reverse_blocks(Vec<T, B> a) {
     if constexpr (B == 16) return a;
     else if constexpr (B == 32) return wrap<T, B>(_mm256_permute4x64_epi64(ri(a), 0x4E));
     else return wrap<T, B>(_mm512_maskz_shuffle_i64x2(0xff, ri(a), ri(a), 0x1B));
+}
 
 // ---- Pixel moves: streaming loads, 128-bit blocks, per-block interleaves --------------
 // Aligned non-temporal load (MOVNTDQA): data read once need not displace the cache.
@@ -734,6 +735,3 @@ ZEL_VI V load_widen(const T* p) {
     }
 }
 #undef ZEL_WIDEN
-
-
-}

@@ -25,7 +25,7 @@ void logic_row(const std::uint8_t* a, const std::uint8_t* b, std::uint8_t* d, in
 }
 
 template <bool LEFT, class T, int B>
-[[gnu::always_inline]] inline Vec<T, B> shifted(Vec<T, B> x, int n) {
+ZEL_VI Vec<T, B> shifted(Vec<T, B> x, int n) {
     if constexpr (LEFT) return shift_l(x, n);
     else return shift_r(x, n);
 }

@@ -23,7 +23,7 @@
 // and k ln 2 in a high part with trailing zeros (k times it is exact) and
 // a low part. `kadj` is taken from k (a denormal comes scaled by 2^25).
 template <int B>
-[[gnu::always_inline]] inline Vec<float, B> ln_normal(Vec<float, B> x, Vec<std::int32_t, B> kadj) {
+ZEL_VI Vec<float, B> ln_normal(Vec<float, B> x, Vec<std::int32_t, B> kadj) {
     using F = Vec<float, B>;
     using U = Vec<std::uint32_t, B>;
     const U bits = bitcast<std::uint32_t>(x);
@@ -40,7 +40,7 @@ template <int B>
 
 // Whether every lane is a positive normal float.
 template <int B>
-[[gnu::always_inline]] inline bool all_positive_normal(Vec<float, B> x) {
+ZEL_VI bool all_positive_normal(Vec<float, B> x) {
     using U = Vec<std::uint32_t, B>;
     return none(ge(bitcast<std::uint32_t>(x) - set1<U>(0x00800000u), set1<U>(0x7f000000u)));
 }
@@ -56,7 +56,7 @@ template <int B>
 // [-104, 89] and scaled by two exact powers of two, so that overflow,
 // denormal results and underflow round once. NaN stays NaN.
 template <int B>
-[[gnu::always_inline]] inline Vec<float, B> exp_float(Vec<float, B> x) {
+ZEL_VI Vec<float, B> exp_float(Vec<float, B> x) {
     using F = Vec<float, B>;
     using I = Vec<std::int32_t, B>;
     static constexpr float hi[8] = {0x1p+0f,        0x1.172b84p+0f, 0x1.306fep+0f,  0x1.4bfdaep+0f,
@@ -82,7 +82,7 @@ template <int B>
 // ---- Integer lanes through 32 bits --------------------------------------------------
 // The lanes of an integer vector as 32-bit lanes: 4, 2 or 1 vectors in lane order.
 template <class T, int B>
-[[gnu::always_inline]] inline void to_i32(Vec<T, B> x, Vec<std::int32_t, B>* w) {
+ZEL_VI void to_i32(Vec<T, B> x, Vec<std::int32_t, B>* w) {
     if constexpr (sizeof(T) == 1) {
         const auto lo = widen_lo<std::int16_t>(x), hi = widen_hi<std::int16_t>(x);
         w[0] = widen_lo<std::int32_t>(lo), w[1] = widen_hi<std::int32_t>(lo);
@@ -95,14 +95,14 @@ template <class T, int B>
 }
 // And back, saturated to T.
 template <class T, int B>
-[[gnu::always_inline]] inline Vec<T, B> from_i32(const Vec<std::int32_t, B>* w) {
+ZEL_VI Vec<T, B> from_i32(const Vec<std::int32_t, B>* w) {
     if constexpr (sizeof(T) == 1) return narrow<T>(w[0], w[1], w[2], w[3]);
     else if constexpr (sizeof(T) == 2) return narrow<T>(w[0], w[1]);
     else return bitcast<T>(w[0]);
 }
 // op.lanes() on the samples of x as 32-bit lanes, saturated back to T.
 template <class T, class Op>
-[[gnu::always_inline]] inline Vec<T> through_i32(const Op& op, Vec<T> x) {
+ZEL_VI Vec<T> through_i32(const Op& op, Vec<T> x) {
     Vec<std::int32_t> w[4];
     to_i32(x, w);
     for (int j = 0; j < int(sizeof(std::int32_t) / sizeof(T)); ++j) w[j] = op.lanes(w[j]);
@@ -123,7 +123,7 @@ template <class T, bool FLT>
 struct UnVec<Un::Abs, T, FLT> {
     using V = Vec<T>;
     explicit UnVec(const UnArgs&) {}
-    [[gnu::always_inline]] V operator()(V x, V&, V&) const {
+    ZEL_VI V operator()(V x, V&, V&) const {
         if constexpr (FLT) return abs(x);
         else return abs(max(x, set1<V>(-32767)));
     }
@@ -134,7 +134,7 @@ template <>
 struct UnVec<Un::Sqrt, float, true> {
     using V = Vec<float>;
     explicit UnVec(const UnArgs&) {}
-    [[gnu::always_inline]] V operator()(V x, V& neg, V&) const {
+    ZEL_VI V operator()(V x, V& neg, V&) const {
         neg = lt(x, zero<V>());
         return sqrt(x);
     }
@@ -153,17 +153,17 @@ struct UnVec<Un::Sqrt, T, false> {
     float f;
     double fd;
     explicit UnVec(const UnArgs& a) : f(a.f), fd(a.fd) {}
-    [[gnu::always_inline]] I lanes(I x) const {
+    ZEL_VI I lanes(I x) const {
         constexpr double hi = std::numeric_limits<T>::max();
         if constexpr (sizeof(T) == 1) {
             const F q = round_to<_MM_FROUND_TO_NEAREST_INT>(sqrt(to_float(x)) * set1<F>(f));
             return trunc_int(min(q, set1<F>(float(hi))));
         } else {
-            auto one = [&](D v) { return min(round_to<_MM_FROUND_TO_NEAREST_INT>(sqrt(v) * set1<D>(fd)), set1<D>(hi)); };
+            auto one = [&](D v) ZEL_VL { return min(round_to<_MM_FROUND_TO_NEAREST_INT>(sqrt(v) * set1<D>(fd)), set1<D>(hi)); };
             return trunc_int(one(widen_lo<double>(x)), one(widen_hi<double>(x)));
         }
     }
-    [[gnu::always_inline]] V operator()(V x, V& neg, V&) const {
+    ZEL_VI V operator()(V x, V& neg, V&) const {
         if constexpr (std::is_signed<T>::value) {
             neg = lt(x, zero<V>());
             x = max(x, zero<V>());
@@ -181,7 +181,7 @@ struct UnVec<Un::Ln, float, true> {
     using V = Vec<float>;
     using I = Vec<std::int32_t>;
     explicit UnVec(const UnArgs&) {}
-    [[gnu::always_inline]] V operator()(V x, V& neg, V& zer) const {
+    ZEL_VI V operator()(V x, V& neg, V& zer) const {
         if (all_positive_normal(x)) return ln_normal(x, zero<I>());
         const V z = zero<V>(), inf = set1<V>(std::numeric_limits<float>::infinity());
         const V dn = lt(x, set1<V>(0x1p-126f));
@@ -218,7 +218,7 @@ struct UnVec<Un::Ln, T, false> {
     static constexpr int L = I::kLanes;
     const UnArgs& a;
     explicit UnVec(const UnArgs& args) : a(args) {}
-    [[gnu::always_inline]] I lanes(I x) const {
+    ZEL_VI I lanes(I x) const {
         constexpr float hi = float(std::numeric_limits<T>::max());
         const I lowest = set1<I>(std::numeric_limits<T>::min());
         const F v = ln_normal(to_float(max(x, set1<I>(1))), zero<I>()) * set1<F>(a.f);
@@ -235,7 +235,7 @@ struct UnVec<Un::Ln, T, false> {
         }
         return r;
     }
-    [[gnu::always_inline]] V operator()(V x, V& neg, V& zer) const {
+    ZEL_VI V operator()(V x, V& neg, V& zer) const {
         zer = eq(x, zero<V>());
         if constexpr (std::is_signed<T>::value) neg = lt(x, zero<V>());
         return through_i32(*this, x);
@@ -247,7 +247,7 @@ template <>
 struct UnVec<Un::Exp, float, true> {
     using V = Vec<float>;
     explicit UnVec(const UnArgs&) {}
-    [[gnu::always_inline]] V operator()(V x, V&, V&) const { return exp_float(x); }
+    ZEL_VI V operator()(V x, V&, V&) const { return exp_float(x); }
 };
 
 // e^x 2^-n truncated and saturated: a step function of the integer x, summed
@@ -261,7 +261,7 @@ struct UnVec<Un::Exp, T, false> {
     explicit UnVec(const UnArgs& a) : m(a.m) {
         for (int j = 0; j < m; ++j) thr[j] = set1<V>(T(a.thr[j])), delta[j] = set1<V>(T(a.delta[j]));
     }
-    [[gnu::always_inline]] V operator()(V x, V&, V&) const {
+    ZEL_VI V operator()(V x, V&, V&) const {
         V r = zero<V>();
         for (int j = 0; j < m; ++j) r = r + (ge(x, thr[j]) & delta[j]);
         return r;

@@ -68,14 +68,14 @@ void AddC_8u_C3RSfs(benchmark::State& st) {
     zb::bytes(st, 6.0 * kW * kH);
 }
 
-ZB_THREADS(Add_8u_C1RSfs<0>);
-ZB_THREADS(Add_8u_C1RSfs<1>);
-ZB_THREADS(Add_32f_C1R);
-ZB_THREADS(Sub_16s_C1RSfs);
-ZB_THREADS(Mul_8u_C1RSfs);
-ZB_THREADS(MulScale_8u_C1R);
-ZB_THREADS(Div_32f_C1R);
-ZB_THREADS(AddC_8u_C3RSfs);
+ZB_ZELI("Add_8u_C1RSfs_scale0", Add_8u_C1RSfs<0>);
+ZB_ZELI("Add_8u_C1RSfs_scale1", Add_8u_C1RSfs<1>);
+ZB_ZELI("Add_32f_C1R", Add_32f_C1R);
+ZB_ZELI("Sub_16s_C1RSfs", Sub_16s_C1RSfs);
+ZB_ZELI("Mul_8u_C1RSfs", Mul_8u_C1RSfs);
+ZB_ZELI("MulScale_8u_C1R", MulScale_8u_C1R);
+ZB_ZELI("Div_32f_C1R", Div_32f_C1R);
+ZB_ZELI("AddC_8u_C3RSfs", AddC_8u_C3RSfs);
 
 #ifdef ZEL_HAVE_OPENCV
 template <int Type, class F>
@@ -98,13 +98,13 @@ void CV_divide_32f(benchmark::State& st) { cv_run<CV_32FC1>(st, 12, [](auto& a, 
 void CV_add_8uC3_scalar(benchmark::State& st) {
     cv_run<CV_8UC3>(st, 6, [](auto& a, auto&, auto& d) { cv::add(a, cv::Scalar(10, 20, 30), d); });
 }
-ZB_THREADS(CV_add_8u);
-ZB_THREADS(CV_add_32f);
-ZB_THREADS(CV_subtract_16s);
-ZB_THREADS(CV_multiply_8u);
-ZB_THREADS(CV_multiply_8u_scale);
-ZB_THREADS(CV_divide_32f);
-ZB_THREADS(CV_add_8uC3_scalar);
+ZB_OPENCV("Add_8u_C1RSfs_scale0", CV_add_8u);
+ZB_OPENCV("Add_32f_C1R", CV_add_32f);
+ZB_OPENCV("Sub_16s_C1RSfs", CV_subtract_16s);
+ZB_OPENCV("Mul_8u_C1RSfs", CV_multiply_8u);
+ZB_OPENCV("MulScale_8u_C1R", CV_multiply_8u_scale);
+ZB_OPENCV("Div_32f_C1R", CV_divide_32f);
+ZB_OPENCV("AddC_8u_C3RSfs", CV_add_8uC3_scalar);
 #endif
 
 } // namespace

@@ -33,7 +33,7 @@ void BM_zel_Convert_8u32f_C1R(benchmark::State& st) {
     for (auto _ : st) zeliConvert_8u32f_C1R(src.data(), kW, dst.data(), kW * 4, {kW, kH});
     zb::bytes(st, 5.0 * kW * kH);
 }
-ZB_THREADS(BM_zel_Convert_8u32f_C1R);
+ZB_ZELI("Convert_8u32f_C1R", BM_zel_Convert_8u32f_C1R);
 
 // ---- 32f to 8u, round to nearest ------------------------------------------------------
 void BM_zel_Convert_32f8u_C1R(benchmark::State& st) {
@@ -43,7 +43,7 @@ void BM_zel_Convert_32f8u_C1R(benchmark::State& st) {
     for (auto _ : st) zeliConvert_32f8u_C1R(src.data(), kW * 4, dst.data(), kW, {kW, kH}, 1);
     zb::bytes(st, 5.0 * kW * kH);
 }
-ZB_THREADS(BM_zel_Convert_32f8u_C1R);
+ZB_ZELI("Convert_32f8u_C1R", BM_zel_Convert_32f8u_C1R);
 
 // ---- 16u to 8u, saturating ----------------------------------------------------------------
 void BM_zel_Convert_16u8u_C1R(benchmark::State& st) {
@@ -53,7 +53,7 @@ void BM_zel_Convert_16u8u_C1R(benchmark::State& st) {
     for (auto _ : st) zeliConvert_16u8u_C1R(src.data(), kW * 2, dst.data(), kW, {kW, kH});
     zb::bytes(st, 3.0 * kW * kH);
 }
-ZB_THREADS(BM_zel_Convert_16u8u_C1R);
+ZB_ZELI("Convert_16u8u_C1R", BM_zel_Convert_16u8u_C1R);
 
 // ---- zeliScale 16u to 8u, fast and accurate hints -------------------------------------------
 template <int Hint>
@@ -64,8 +64,8 @@ void BM_zel_Scale_16u8u_C1R(benchmark::State& st) {
     for (auto _ : st) zeliScale_16u8u_C1R(src.data(), kW * 2, dst.data(), kW, {kW, kH}, Hint);
     zb::bytes(st, 3.0 * kW * kH);
 }
-BENCHMARK_TEMPLATE(BM_zel_Scale_16u8u_C1R, 1)->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond)->UseRealTime();
-BENCHMARK_TEMPLATE(BM_zel_Scale_16u8u_C1R, 2)->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond)->UseRealTime();
+ZB_NAMED("zeli", "Scale_16u8u_C1R_fast", BENCHMARK_TEMPLATE(BM_zel_Scale_16u8u_C1R, 1))->ArgName("threads")->Arg(1)->Arg(2);
+ZB_NAMED("zeli", "Scale_16u8u_C1R_accurate", BENCHMARK_TEMPLATE(BM_zel_Scale_16u8u_C1R, 2))->ArgName("threads")->Arg(1)->Arg(2);
 
 // ---- Borders, 16-pixel frames ---------------------------------------------------------------
 constexpr int kB = 16;
@@ -79,7 +79,7 @@ void BM_zel_CopyReplicateBorder_8u_C3R(benchmark::State& st) {
         zeliCopyReplicateBorder_8u_C3R(src.data(), kW * 3, {kW, kH}, dst.data(), dw * 3, {dw, dh}, kB, kB);
     zb::bytes(st, 3.0 * (double(kW) * kH + double(dw) * dh));
 }
-ZB_THREADS(BM_zel_CopyReplicateBorder_8u_C3R);
+ZB_ZELI("CopyReplicateBorder_8u_C3R", BM_zel_CopyReplicateBorder_8u_C3R);
 
 void BM_zel_CopyConstBorder_8u_C1R(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -90,7 +90,7 @@ void BM_zel_CopyConstBorder_8u_C1R(benchmark::State& st) {
         zeliCopyConstBorder_8u_C1R(src.data(), kW, {kW, kH}, dst.data(), dw, {dw, dh}, kB, kB, 77);
     zb::bytes(st, double(kW) * kH + double(dw) * dh);
 }
-ZB_THREADS(BM_zel_CopyConstBorder_8u_C1R);
+ZB_ZELI("CopyConstBorder_8u_C1R", BM_zel_CopyConstBorder_8u_C1R);
 
 #ifdef ZEL_HAVE_OPENCV
 // ---- OpenCV's equivalents ---------------------------------------------------------------------
@@ -103,15 +103,15 @@ void cv_convert(benchmark::State& st, int srcType, int dstType, double scale, co
     zb::bytes(st, bytes);
 }
 void BM_cv_convertTo_8u32f(benchmark::State& st) { cv_convert(st, CV_8UC1, CV_32FC1, 1.0, image<Zel8u>(1, 1), 5.0 * kW * kH); }
-ZB_THREADS(BM_cv_convertTo_8u32f);
+ZB_OPENCV("Convert_8u32f_C1R", BM_cv_convertTo_8u32f);
 void BM_cv_convertTo_32f8u(benchmark::State& st) { cv_convert(st, CV_32FC1, CV_8UC1, 1.0, ramp(), 5.0 * kW * kH); }
-ZB_THREADS(BM_cv_convertTo_32f8u);
+ZB_OPENCV("Convert_32f8u_C1R", BM_cv_convertTo_32f8u);
 void BM_cv_convertTo_16u8u(benchmark::State& st) { cv_convert(st, CV_16UC1, CV_8UC1, 1.0, image<Zel16u>(1, 3), 3.0 * kW * kH); }
-ZB_THREADS(BM_cv_convertTo_16u8u);
+ZB_OPENCV("Convert_16u8u_C1R", BM_cv_convertTo_16u8u);
 void BM_cv_convertTo_16u8u_scaled(benchmark::State& st) {
     cv_convert(st, CV_16UC1, CV_8UC1, 255.0 / 65535.0, image<Zel16u>(1, 4), 3.0 * kW * kH);
 }
-ZB_THREADS(BM_cv_convertTo_16u8u_scaled);
+ZB_OPENCV("Scale_16u8u_C1R_fast", BM_cv_convertTo_16u8u_scaled);
 
 // copyMakeBorder with 16-pixel frames on all sides.
 void cv_border(benchmark::State& st, int type, int channels, int border, int seed) {
@@ -122,9 +122,9 @@ void cv_border(benchmark::State& st, int type, int channels, int border, int see
     zb::bytes(st, channels * (double(kW) * kH + double(kW + 2 * kB) * (kH + 2 * kB)));
 }
 void BM_cv_copyMakeBorder_replicate_8uC3(benchmark::State& st) { cv_border(st, CV_8UC3, 3, cv::BORDER_REPLICATE, 5); }
-ZB_THREADS(BM_cv_copyMakeBorder_replicate_8uC3);
+ZB_OPENCV("CopyReplicateBorder_8u_C3R", BM_cv_copyMakeBorder_replicate_8uC3);
 void BM_cv_copyMakeBorder_const_8uC1(benchmark::State& st) { cv_border(st, CV_8UC1, 1, cv::BORDER_CONSTANT, 6); }
-ZB_THREADS(BM_cv_copyMakeBorder_const_8uC1);
+ZB_OPENCV("CopyConstBorder_8u_C1R", BM_cv_copyMakeBorder_const_8uC1);
 #endif
 
 } // namespace

@@ -30,8 +30,8 @@ struct Buffers {
     double bytes() const { return double(step) * roi.height; }
 };
 
-#define ZB_SIZES(fn) BENCHMARK(fn)->ArgsProduct({{0, 1}, {1, 2}})->Unit(benchmark::kMicrosecond)->UseRealTime()
-#define ZB_OURS(fn) BENCHMARK(fn)->ArgsProduct({{0, 1, 2}, {1, 2}})->Unit(benchmark::kMicrosecond)->UseRealTime()
+#define ZB_SIZES(lib, name, fn) ZB_NAMED(lib, name, BENCHMARK(fn))->ArgNames({"size", "threads"})->ArgsProduct({{0, 1}, {1, 2}})
+#define ZB_OURS(name, fn) ZB_NAMED("zeli", name, BENCHMARK(fn))->ArgNames({"size", "threads"})->ArgsProduct({{0, 1, 2}, {1, 2}})
 
 // ---- zeliCopy_8u_C1R ----------------------------------------------------------
 void Copy_8u_C1R(benchmark::State& st) {
@@ -40,7 +40,7 @@ void Copy_8u_C1R(benchmark::State& st) {
     for (auto _ : st) zeliCopy_8u_C1R(m.a.data(), m.step, m.b.data(), m.step, m.roi);
     zb::bytes(st, 2 * m.bytes());
 }
-ZB_OURS(Copy_8u_C1R);
+ZB_OURS("Copy_8u_C1R", Copy_8u_C1R);
 
 void Memcpy_8u_C1(benchmark::State& st) {
     zb::set_threads(int(st.range(1)));
@@ -51,7 +51,7 @@ void Memcpy_8u_C1(benchmark::State& st) {
     }
     zb::bytes(st, 2 * m.bytes());
 }
-ZB_SIZES(Memcpy_8u_C1);
+ZB_SIZES("libc", "Copy_8u_C1R", Memcpy_8u_C1);
 
 // ---- zeliCopy_8u_C3P3R ----------------------------------------------------------
 void Copy_8u_C3P3R(benchmark::State& st) {
@@ -62,7 +62,7 @@ void Copy_8u_C3P3R(benchmark::State& st) {
     for (auto _ : st) zeliCopy_8u_C3P3R(m.a.data(), m.step, planes, m.roi.width, m.roi);
     zb::bytes(st, 2 * m.bytes());
 }
-ZB_OURS(Copy_8u_C3P3R);
+ZB_OURS("Copy_8u_C3P3R", Copy_8u_C3P3R);
 
 // ---- zeliSet_8u_C3R, zeliSet_32f_C1R ----------------------------------------------
 void Set_8u_C3R(benchmark::State& st) {
@@ -72,7 +72,7 @@ void Set_8u_C3R(benchmark::State& st) {
     for (auto _ : st) zeliSet_8u_C3R(v, m.b.data(), m.step, m.roi);
     zb::bytes(st, m.bytes());
 }
-ZB_OURS(Set_8u_C3R);
+ZB_OURS("Set_8u_C3R", Set_8u_C3R);
 
 void Set_32f_C1R(benchmark::State& st) {
     zb::set_threads(int(st.range(1)));
@@ -80,7 +80,7 @@ void Set_32f_C1R(benchmark::State& st) {
     for (auto _ : st) zeliSet_32f_C1R(1.5f, reinterpret_cast<Zel32f*>(m.b.data()), m.step, m.roi);
     zb::bytes(st, m.bytes());
 }
-ZB_OURS(Set_32f_C1R);
+ZB_OURS("Set_32f_C1R", Set_32f_C1R);
 
 // memset of the same bytes as the 8u C3 (3 bytes a pixel) and 32f C1 (4) fills.
 template <int PixelBytes>
@@ -93,8 +93,8 @@ void Memset(benchmark::State& st) {
     }
     zb::bytes(st, m.bytes());
 }
-ZB_SIZES(Memset<3>);
-ZB_SIZES(Memset<4>);
+ZB_SIZES("libc", "Set_8u_C3R", Memset<3>);
+ZB_SIZES("libc", "Set_32f_C1R", Memset<4>);
 
 #ifdef ZEL_HAVE_OPENCV
 void OpenCV_copyTo_8u_C1(benchmark::State& st) {
@@ -104,7 +104,7 @@ void OpenCV_copyTo_8u_C1(benchmark::State& st) {
     for (auto _ : st) a.copyTo(b);
     zb::bytes(st, 2 * m.bytes());
 }
-ZB_SIZES(OpenCV_copyTo_8u_C1);
+ZB_SIZES("opencv", "Copy_8u_C1R", OpenCV_copyTo_8u_C1);
 
 void OpenCV_split_8u_C3(benchmark::State& st) {
     zb::set_threads(int(st.range(1)));
@@ -116,7 +116,7 @@ void OpenCV_split_8u_C3(benchmark::State& st) {
     for (auto _ : st) cv::split(a, planes);
     zb::bytes(st, 2 * m.bytes());
 }
-ZB_SIZES(OpenCV_split_8u_C3);
+ZB_SIZES("opencv", "Copy_8u_C3P3R", OpenCV_split_8u_C3);
 
 void OpenCV_setTo_8u_C3(benchmark::State& st) {
     zb::set_threads(int(st.range(1)));
@@ -125,7 +125,7 @@ void OpenCV_setTo_8u_C3(benchmark::State& st) {
     for (auto _ : st) b.setTo(cv::Scalar(1, 2, 3));
     zb::bytes(st, m.bytes());
 }
-ZB_SIZES(OpenCV_setTo_8u_C3);
+ZB_SIZES("opencv", "Set_8u_C3R", OpenCV_setTo_8u_C3);
 
 void OpenCV_setTo_32f_C1(benchmark::State& st) {
     zb::set_threads(int(st.range(1)));
@@ -134,7 +134,7 @@ void OpenCV_setTo_32f_C1(benchmark::State& st) {
     for (auto _ : st) b.setTo(cv::Scalar(1.5));
     zb::bytes(st, m.bytes());
 }
-ZB_SIZES(OpenCV_setTo_32f_C1);
+ZB_SIZES("opencv", "Set_32f_C1R", OpenCV_setTo_32f_C1);
 #endif
 
 } // namespace

@@ -30,7 +30,7 @@ void Zel_Norm_L2_32f(benchmark::State& st) {
     }
     zb::bytes(st, double(a.size()) * 4);
 }
-ZB_THREADS(Zel_Norm_L2_32f);
+ZB_ZELI("Norm_L2_32f_C1R", Zel_Norm_L2_32f);
 
 void Zel_NormDiff_L1_8u(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -42,7 +42,7 @@ void Zel_NormDiff_L1_8u(benchmark::State& st) {
     }
     zb::bytes(st, double(a.size()) * 2);
 }
-ZB_THREADS(Zel_NormDiff_L1_8u);
+ZB_ZELI("NormDiff_L1_8u_C1R", Zel_NormDiff_L1_8u);
 
 void Zel_Norm_Inf_16s(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -54,7 +54,7 @@ void Zel_Norm_Inf_16s(benchmark::State& st) {
     }
     zb::bytes(st, double(a.size()) * 2);
 }
-ZB_THREADS(Zel_Norm_Inf_16s);
+ZB_ZELI("Norm_Inf_16s_C1R", Zel_Norm_Inf_16s);
 
 void Zel_HistogramEven_8u_256(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -66,7 +66,7 @@ void Zel_HistogramEven_8u_256(benchmark::State& st) {
     }
     zb::bytes(st, double(a.size()));
 }
-ZB_THREADS(Zel_HistogramEven_8u_256);
+ZB_ZELI("HistogramEven_8u_C1R_256", Zel_HistogramEven_8u_256);
 
 void Zel_HistogramRange_16u_64(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -79,7 +79,7 @@ void Zel_HistogramRange_16u_64(benchmark::State& st) {
     }
     zb::bytes(st, double(a.size()) * 2);
 }
-ZB_THREADS(Zel_HistogramRange_16u_64);
+ZB_ZELI("HistogramRange_16u_C1R_64", Zel_HistogramRange_16u_64);
 
 void Zel_CountInRange_8u(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -91,7 +91,7 @@ void Zel_CountInRange_8u(benchmark::State& st) {
     }
     zb::bytes(st, double(a.size()));
 }
-ZB_THREADS(Zel_CountInRange_8u);
+ZB_ZELI("CountInRange_8u_C1R", Zel_CountInRange_8u);
 
 #ifdef ZEL_HAVE_OPENCV
 void Cv_Norm_L2_32f(benchmark::State& st) {
@@ -101,7 +101,7 @@ void Cv_Norm_L2_32f(benchmark::State& st) {
     for (auto _ : st) benchmark::DoNotOptimize(cv::norm(m, cv::NORM_L2));
     zb::bytes(st, double(a.size()) * 4);
 }
-ZB_THREADS(Cv_Norm_L2_32f);
+ZB_OPENCV("Norm_L2_32f_C1R", Cv_Norm_L2_32f);
 
 void Cv_NormDiff_L1_8u(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -110,7 +110,7 @@ void Cv_NormDiff_L1_8u(benchmark::State& st) {
     for (auto _ : st) benchmark::DoNotOptimize(cv::norm(ma, mb, cv::NORM_L1));
     zb::bytes(st, double(a.size()) * 2);
 }
-ZB_THREADS(Cv_NormDiff_L1_8u);
+ZB_OPENCV("NormDiff_L1_8u_C1R", Cv_NormDiff_L1_8u);
 
 void Cv_Norm_Inf_16s(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -119,7 +119,7 @@ void Cv_Norm_Inf_16s(benchmark::State& st) {
     for (auto _ : st) benchmark::DoNotOptimize(cv::norm(m, cv::NORM_INF));
     zb::bytes(st, double(a.size()) * 2);
 }
-ZB_THREADS(Cv_Norm_Inf_16s);
+ZB_OPENCV("Norm_Inf_16s_C1R", Cv_Norm_Inf_16s);
 
 void Cv_CalcHist_8u_256(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -134,7 +134,7 @@ void Cv_CalcHist_8u_256(benchmark::State& st) {
     }
     zb::bytes(st, double(a.size()));
 }
-ZB_THREADS(Cv_CalcHist_8u_256);
+ZB_OPENCV("HistogramEven_8u_C1R_256", Cv_CalcHist_8u_256);
 
 void Cv_CalcHist_16u_63(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -149,7 +149,7 @@ void Cv_CalcHist_16u_63(benchmark::State& st) {
     }
     zb::bytes(st, double(a.size()) * 2);
 }
-ZB_THREADS(Cv_CalcHist_16u_63);
+ZB_OPENCV("HistogramRange_16u_C1R_64", Cv_CalcHist_16u_63);
 
 void Cv_InRangeCount_8u(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -161,7 +161,7 @@ void Cv_InRangeCount_8u(benchmark::State& st) {
     }
     zb::bytes(st, double(a.size()));
 }
-ZB_THREADS(Cv_InRangeCount_8u);
+ZB_OPENCV("CountInRange_8u_C1R", Cv_InRangeCount_8u);
 #endif
 
 } // namespace

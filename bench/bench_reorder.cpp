@@ -46,7 +46,7 @@ void timed(benchmark::State& st, double bytesPerIteration, F&& call, bool opencv
     for (auto _ : st) call();
     zb::bytes(st, bytesPerIteration);
 }
-#define ZB_AXES(fn) BENCHMARK(fn)->ArgsProduct({{1, 2}, {0, 1, 2}})->Unit(benchmark::kMicrosecond)->UseRealTime()
+#define ZB_AXES(lib, fn) ZB_NAMED(lib, "Mirror_8u_C3R", BENCHMARK(fn))->ArgNames({"threads", "axis"})->ArgsProduct({{1, 2}, {0, 1, 2}})
 
 // ---- Ours ----------------------------------------------------------------------
 void Transpose_8u_C1(benchmark::State& st) {
@@ -90,15 +90,15 @@ void Otsu_8u_C1(benchmark::State& st) {
     timed(st, 1.0 * W * H, [&] { zeliComputeThreshold_Otsu_8u_C1R(s.p, s.step, s.size(), &t); });
     benchmark::DoNotOptimize(t);
 }
-ZB_THREADS(Transpose_8u_C1);
-ZB_THREADS(Transpose_32f_C1);
-ZB_AXES(Mirror_8u_C3);
-ZB_THREADS(SwapChannels_8u_C3);
-ZB_THREADS(CompareC_8u_C1);
-ZB_THREADS(Threshold_GTVal_8u_C1);
-ZB_THREADS(Threshold_16u_C1);
-ZB_THREADS(Threshold_LTValGTVal_32f_C1);
-ZB_THREADS(Otsu_8u_C1);
+ZB_ZELI("Transpose_8u_C1R", Transpose_8u_C1);
+ZB_ZELI("Transpose_32f_C1R", Transpose_32f_C1);
+ZB_AXES("zeli", Mirror_8u_C3);
+ZB_ZELI("SwapChannels_8u_C3R", SwapChannels_8u_C3);
+ZB_ZELI("CompareC_8u_C1R", CompareC_8u_C1);
+ZB_ZELI("Threshold_GTVal_8u_C1R", Threshold_GTVal_8u_C1);
+ZB_ZELI("Threshold_16u_C1R", Threshold_16u_C1);
+ZB_ZELI("Threshold_LTValGTVal_32f_C1R", Threshold_LTValGTVal_32f_C1);
+ZB_ZELI("ComputeThreshold_Otsu_8u_C1R", Otsu_8u_C1);
 
 // ---- OpenCV --------------------------------------------------------------------
 #ifdef ZEL_HAVE_OPENCV
@@ -130,11 +130,11 @@ void CV_Compare_8u_C1(benchmark::State& st) {
     cv::Mat a = s.mat(CV_8U), b = d.mat(CV_8U);
     timed(st, 2.0 * W * H, [&] { cv::compare(a, 100, b, cv::CMP_GT); }, true);
 }
-ZB_THREADS(CV_Transpose_8u_C1);
-ZB_THREADS(CV_Transpose_32f_C1);
-ZB_AXES(CV_Flip_8u_C3);
-ZB_THREADS(CV_MixChannels_8u_C3);
-ZB_THREADS(CV_Compare_8u_C1);
+ZB_OPENCV("Transpose_8u_C1R", CV_Transpose_8u_C1);
+ZB_OPENCV("Transpose_32f_C1R", CV_Transpose_32f_C1);
+ZB_AXES("opencv", CV_Flip_8u_C3);
+ZB_OPENCV("SwapChannels_8u_C3R", CV_MixChannels_8u_C3);
+ZB_OPENCV("CompareC_8u_C1R", CV_Compare_8u_C1);
 
 // cv::threshold of one depth: GTVal with value 0 is THRESH_TOZERO_INV, the
 // plain GT is THRESH_TRUNC; OpenCV has no two-sided replacement, THRESH_TRUNC
@@ -148,11 +148,11 @@ void CV_Threshold(benchmark::State& st, int depth, double level, int type, doubl
     timed(st, bytesPerPixel * W * H, [&] { cv::threshold(a, b, level, 0, type); }, true);
 }
 #define ZB_CV_THRESHOLD(NAME, D, LEVEL, TYPE, BYTES) \
-    BENCHMARK_CAPTURE(CV_Threshold, NAME, D, LEVEL, TYPE, BYTES)->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond)->UseRealTime()
-ZB_CV_THRESHOLD(ToZeroInv_8u_C1, CV_8U, 100, cv::THRESH_TOZERO_INV, 2.0);
-ZB_CV_THRESHOLD(Trunc_16u_C1, CV_16U, 30000, cv::THRESH_TRUNC, 4.0);
-ZB_CV_THRESHOLD(Trunc_32f_C1, CV_32F, 200, cv::THRESH_TRUNC, 8.0);
-ZB_CV_THRESHOLD(Otsu_8u_C1, CV_8U, 0, cv::THRESH_BINARY | cv::THRESH_OTSU, 1.0);
+    ZB_NAMED("opencv", NAME, BENCHMARK_CAPTURE(CV_Threshold, x, D, LEVEL, TYPE, BYTES))->ArgName("threads")->Arg(1)->Arg(2)
+ZB_CV_THRESHOLD("Threshold_GTVal_8u_C1R", CV_8U, 100, cv::THRESH_TOZERO_INV, 2.0);
+ZB_CV_THRESHOLD("Threshold_16u_C1R", CV_16U, 30000, cv::THRESH_TRUNC, 4.0);
+ZB_CV_THRESHOLD("Threshold_LTValGTVal_32f_C1R", CV_32F, 200, cv::THRESH_TRUNC, 8.0);
+ZB_CV_THRESHOLD("ComputeThreshold_Otsu_8u_C1R", CV_8U, 0, cv::THRESH_BINARY | cv::THRESH_OTSU, 1.0);
 #endif
 
 } // namespace

@@ -27,7 +27,7 @@ void Zel_Sum_8u_C1R(benchmark::State& st) {
     }
     zb::bytes(st, double(src.size()));
 }
-ZB_THREADS(Zel_Sum_8u_C1R);
+ZB_ZELI("Sum_8u_C1R", Zel_Sum_8u_C1R);
 
 void Zel_Sum_32f_C1R(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -39,7 +39,7 @@ void Zel_Sum_32f_C1R(benchmark::State& st) {
     }
     zb::bytes(st, double(src.size() * 4));
 }
-ZB_THREADS(Zel_Sum_32f_C1R);
+ZB_ZELI("Sum_32f_C1R", Zel_Sum_32f_C1R);
 
 void Zel_Mean_8u_C3R(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -51,7 +51,7 @@ void Zel_Mean_8u_C3R(benchmark::State& st) {
     }
     zb::bytes(st, double(src.size()));
 }
-ZB_THREADS(Zel_Mean_8u_C3R);
+ZB_ZELI("Mean_8u_C3R", Zel_Mean_8u_C3R);
 
 void Zel_MinMax_8u_C1R(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -64,7 +64,7 @@ void Zel_MinMax_8u_C1R(benchmark::State& st) {
     }
     zb::bytes(st, double(src.size()));
 }
-ZB_THREADS(Zel_MinMax_8u_C1R);
+ZB_ZELI("MinMax_8u_C1R", Zel_MinMax_8u_C1R);
 
 void Zel_MinIndx_32f_C1R(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -77,7 +77,7 @@ void Zel_MinIndx_32f_C1R(benchmark::State& st) {
     }
     zb::bytes(st, double(src.size() * 4));
 }
-ZB_THREADS(Zel_MinIndx_32f_C1R);
+ZB_ZELI("MinIndx_32f_C1R", Zel_MinIndx_32f_C1R);
 
 void Zel_DotProd_32f64f_C1R(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -89,7 +89,7 @@ void Zel_DotProd_32f64f_C1R(benchmark::State& st) {
     }
     zb::bytes(st, double(a.size() * 8));
 }
-ZB_THREADS(Zel_DotProd_32f64f_C1R);
+ZB_ZELI("DotProd_32f64f_C1R", Zel_DotProd_32f64f_C1R);
 
 #ifdef ZEL_HAVE_OPENCV
 template <class T>
@@ -102,7 +102,7 @@ void Cv_Sum_8u_C1(benchmark::State& st) {
     for (auto _ : st) benchmark::DoNotOptimize(cv::sum(m));
     zb::bytes(st, double(src.size()));
 }
-ZB_THREADS(Cv_Sum_8u_C1);
+ZB_OPENCV("Sum_8u_C1R", Cv_Sum_8u_C1);
 
 void Cv_Sum_32f_C1(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -111,7 +111,7 @@ void Cv_Sum_32f_C1(benchmark::State& st) {
     for (auto _ : st) benchmark::DoNotOptimize(cv::sum(m));
     zb::bytes(st, double(src.size() * 4));
 }
-ZB_THREADS(Cv_Sum_32f_C1);
+ZB_OPENCV("Sum_32f_C1R", Cv_Sum_32f_C1);
 
 void Cv_Mean_8u_C3(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -120,7 +120,7 @@ void Cv_Mean_8u_C3(benchmark::State& st) {
     for (auto _ : st) benchmark::DoNotOptimize(cv::mean(m));
     zb::bytes(st, double(src.size()));
 }
-ZB_THREADS(Cv_Mean_8u_C3);
+ZB_OPENCV("Mean_8u_C3R", Cv_Mean_8u_C3);
 
 void Cv_MinMaxLoc_8u_C1(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -133,7 +133,7 @@ void Cv_MinMaxLoc_8u_C1(benchmark::State& st) {
     }
     zb::bytes(st, double(src.size()));
 }
-ZB_THREADS(Cv_MinMaxLoc_8u_C1);
+ZB_OPENCV("MinMax_8u_C1R", Cv_MinMaxLoc_8u_C1);
 
 void Cv_MinMaxLoc_32f_C1_Loc(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -147,7 +147,7 @@ void Cv_MinMaxLoc_32f_C1_Loc(benchmark::State& st) {
     }
     zb::bytes(st, double(src.size() * 4));
 }
-ZB_THREADS(Cv_MinMaxLoc_32f_C1_Loc);
+ZB_OPENCV("MinIndx_32f_C1R", Cv_MinMaxLoc_32f_C1_Loc);
 
 void Cv_Dot_32f_C1(benchmark::State& st) {
     zb::set_threads(int(st.range(0)));
@@ -156,7 +156,7 @@ void Cv_Dot_32f_C1(benchmark::State& st) {
     for (auto _ : st) benchmark::DoNotOptimize(ma.dot(mb));
     zb::bytes(st, double(a.size() * 8));
 }
-ZB_THREADS(Cv_Dot_32f_C1);
+ZB_OPENCV("DotProd_32f64f_C1R", Cv_Dot_32f_C1);
 #endif
 
 } // namespace

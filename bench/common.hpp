@@ -42,5 +42,14 @@ std::vector<T> random_image(int channels, unsigned seed, long long lo, long long
 
 } // namespace zb
 
-// Registers a benchmark at 1 and 2 threads.
-#define ZB_THREADS(fn) BENCHMARK(fn)->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond)->UseRealTime()
+// Names: <library>/<case>/threads:<n>, with `zeli` for ours and `opencv` for
+// OpenCV's nearest equivalent of the same case (and `libc` for memcpy and
+// memset baselines), so that bench/run_bench.py can pair them. Extra
+// arguments are named too (size:1, axis:2) and belong to the case.
+#define ZB_NAMED(lib, name, reg) reg->Name(lib "/" name)->Unit(benchmark::kMicrosecond)->UseRealTime()
+// Registers `fn` as <lib>/<name> at 1 and 2 threads.
+#define ZB_CASE(lib, name, fn) ZB_NAMED(lib, name, BENCHMARK(fn))->ArgName("threads")->Arg(1)->Arg(2)
+#define ZB_ZELI(name, fn) ZB_CASE("zeli", name, fn)
+#define ZB_OPENCV(name, fn) ZB_CASE("opencv", name, fn)
+// A benchmark without a case name yet: listed by bench/run_bench.py under "unpaired".
+#define ZB_THREADS(fn) ZB_CASE("unpaired", #fn, fn)

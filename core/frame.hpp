@@ -171,7 +171,9 @@ inline ZelStatus bands_scratch_frame(int height, int team, std::size_t perThread
             teamSize = omp_get_num_threads();
             perThread = height / teamSize;
             remainder = height % teamSize;
-            block = static_cast<char*>(zelMalloc(std::size_t(teamSize) * perThreadBytes));
+            // A team's block whose size does not fit a size_t fails like a refused allocation.
+            if (perThreadBytes <= std::size_t(-1) / std::size_t(teamSize))
+                block = static_cast<char*>(zelMalloc(std::size_t(teamSize) * perThreadBytes));
             if (!block) failed = 1;
         }
 #pragma omp barrier

@@ -24,13 +24,13 @@ int main(void) {
     if (st == zelStatusOk) st = zeliCopy_8u_C3R(src, srcStep, dst, dstStep, roi);
     if (st == zelStatusOk) {
         const Zel8u* px = dst + 240 * dstStep + 320 * 3;
-        printf("set + copy: status %d, pixel (320,240) = (%d, %d, %d)\n", st, px[0], px[1], px[2]);
+        printf("set + copy: %s, pixel (320,240) = (%d, %d, %d)\n", zelGetStatusString(st), px[0], px[1], px[2]);
     }
 
     /* A region of width 0 is refused with a status, and nothing is written. */
     ZeliSize empty = {0, 480};
-    printf("copy with width 0: status %d (zelStatusBadSize is %d)\n",
-           zeliCopy_8u_C3R(src, srcStep, dst, dstStep, empty), zelStatusBadSize);
+    ZelStatus bad = zeliCopy_8u_C3R(src, srcStep, dst, dstStep, empty);
+    printf("copy with width 0: status %d, %s\n", bad, zelGetStatusString(bad));
 
     zeliFree(src);
     zeliFree(dst);

@@ -4,6 +4,8 @@
 
 #include <stddef.h>
 
+#include "zelip8/types.h"
+
 #if defined(ZELCORE_BUILD)
 #define ZELCORE_API __attribute__((visibility("default")))
 #else
@@ -50,6 +52,11 @@ ZELCORE_API int zelSetIsaLevel(int level);
 ZELCORE_API int ownGetNumThreads(void);
 /* Non-zero if the processor feature `feature` (a bit of the feature word) is present. */
 ZELCORE_API int ownGetFeature(unsigned int feature, unsigned int featureHigh);
+
+/* The name and a one-line meaning of a status, as "zelStatusBadSize: ...";
+   a generic text for a code the library does not know. Never NULL; the text
+   is constant and lives as long as the library. */
+ZELCORE_API const char* zelGetStatusString(ZelStatus status);
 
 #ifdef __cplusplus
 }

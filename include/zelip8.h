@@ -3,8 +3,13 @@
    Every function works on a region of interest of buffers the caller owns:
    a pointer to its first sample, a row step in bytes and a ZeliSize in pixels.
    Functions return a ZelStatus: 0 success, negative error (outputs untouched),
-   positive warning (outputs valid). Names follow one grammar:
-   zeli<Family>_<variant>_<type>_<layout>[I][M]R[Sfs]. */
+   positive warning (outputs valid); zelGetStatusString names each one. Names
+   follow one grammar: zeli<Family>_<variant>_<type>_<layout>[I][M]R[Sfs].
+   doc/reference.md explains the grammar, the argument order and each family.
+
+   Generated from the declaration lists include/zelip8/fn_*.h by
+   tools/gen_api.cpp (cmake --build <dir> --target zelip8_api): edit the
+   lists, not this file. */
 #ifndef ZELIP8_H
 #define ZELIP8_H
 
@@ -21,12 +26,4812 @@
 extern "C" {
 #endif
 
-/* Each family lists its members once, in include/zelip8/fn_*.h, as
-   ZEL_FN(return type, name, (parameters), (arguments), implementation).
-   Here every entry becomes a declaration. */
-#define ZEL_FN(ret, name, params, args, impl) ZELAPI ret name params;
-#include "zelip8/lists.h"
-#undef ZEL_FN
+/* ==== Image memory and version ==========================================
+
+   zeliMalloc_<type>_<layout>(width, height, &step): a block whose rows start
+   64 bytes apart at the least; the row step goes to *step (0 for a bad size).
+   zeliFree releases it. zeliGetLibVersion describes this build.
+
+   Checks: none of these returns a status. zeliMalloc_* return NULL and a step
+   of 0 for a width or height below 1, and for an image whose row step does not
+   fit an int or whose size does not fit the address space; NULL with the step
+   stored when the memory is not there; NULL for a NULL step pointer.
+
+   Example:
+       int step = 0;
+       Zel8u* img = zeliMalloc_8u_C3(640, 480, &step); // step 1920
+       ZelStatus st = img ? zelStatusOk : zelStatusMemAlloc;
+       zeliFree(img); */
+
+/* zeliMalloc */
+ZELAPI Zel8u* zeliMalloc_8u_C1(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel8u* zeliMalloc_8u_C2(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel8u* zeliMalloc_8u_C3(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel8u* zeliMalloc_8u_C4(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel8u* zeliMalloc_8u_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel16u* zeliMalloc_16u_C1(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel16u* zeliMalloc_16u_C2(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel16u* zeliMalloc_16u_C3(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel16u* zeliMalloc_16u_C4(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel16u* zeliMalloc_16u_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel16s* zeliMalloc_16s_C1(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel16s* zeliMalloc_16s_C2(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel16s* zeliMalloc_16s_C3(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel16s* zeliMalloc_16s_C4(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel16s* zeliMalloc_16s_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32s* zeliMalloc_32s_C1(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32s* zeliMalloc_32s_C2(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32s* zeliMalloc_32s_C3(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32s* zeliMalloc_32s_C4(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32s* zeliMalloc_32s_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32f* zeliMalloc_32f_C1(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32f* zeliMalloc_32f_C2(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32f* zeliMalloc_32f_C3(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32f* zeliMalloc_32f_C4(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32f* zeliMalloc_32f_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32sc* zeliMalloc_32sc_C1(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32sc* zeliMalloc_32sc_C2(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32sc* zeliMalloc_32sc_C3(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32sc* zeliMalloc_32sc_C4(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32sc* zeliMalloc_32sc_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32fc* zeliMalloc_32fc_C1(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32fc* zeliMalloc_32fc_C2(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32fc* zeliMalloc_32fc_C3(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32fc* zeliMalloc_32fc_C4(int widthPixels, int heightPixels, int* pStepBytes);
+ZELAPI Zel32fc* zeliMalloc_32fc_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+
+/* zeliFree */
+ZELAPI void zeliFree(void* ptr);
+
+/* zeliGetLibVersion */
+ZELAPI const ZelLibraryVersion* zeliGetLibVersion(void);
+
+/* ==== Copy and set ======================================================
+
+   zeliCopy moves samples between images of one sample type: whole pixels
+   (C1R, C3R, C4R; AC4R keeps the destination alpha), under a mask (..MR: a
+   pixel is written where its mask byte is not zero), one channel of interest
+   (C3CR, C4CR), one channel out of or into an interleaved image (C3C1R,
+   C4C1R, C1C3R, C1C4R), dropping or adding alpha (AC4C3R, C3AC4R), and
+   between interleaved and planar images (C3P3R, C4P4R, P3C3R, P4C4R).
+   zeliSet writes a constant in the same forms. zeliDup spreads one channel
+   over three or four. zeliCopyManaged copies with a chosen store and load
+   policy: flags bit 0 non-temporal stores, bit 1 streaming loads.
+
+   Checks: zelStatusNullPointer (every plane and the mask too), then
+   zelStatusBadSize. Steps are not checked: 0 and negative steps walk the
+   rows by the step.
+
+   Example:
+       Zel8u rgb[4 * 3 * 2], r[4 * 2], g[4 * 2], b[4 * 2];
+       Zel8u* planes[3] = {r, g, b};
+       const Zel8u grey[3] = {128, 128, 128};
+       ZeliSize roi = {4, 2};
+       ZelStatus st = zeliSet_8u_C3R(grey, rgb, 4 * 3, roi);
+       if (st == zelStatusOk) st = zeliCopy_8u_C3P3R(rgb, 4 * 3, planes, 4, roi); */
+
+/* zeliCopy */
+ZELAPI ZelStatus zeliCopy_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_C1MR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliCopy_8u_C3MR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliCopy_8u_C4MR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliCopy_8u_AC4MR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliCopy_8u_C3CR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_C4CR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_C3C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_C4C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_C1C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_C1C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_AC4C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_C3AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_C3P3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* const pDst[3], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_C4P4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* const pDst[4], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_P3C3R(
+    const Zel8u* const pSrc[3], int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_8u_P4C4R(
+    const Zel8u* const pSrc[4], int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_C1MR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16s_C3MR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16s_C4MR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16s_AC4MR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16s_C3CR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_C4CR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_C3C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_C4C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_C1C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_C1C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_AC4C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_C3AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_C3P3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* const pDst[3], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_C4P4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* const pDst[4], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_P3C3R(
+    const Zel16s* const pSrc[3], int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16s_P4C4R(
+    const Zel16s* const pSrc[4], int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_C1MR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16u_C3MR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16u_C4MR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16u_AC4MR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16u_C3CR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_C4CR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_C3C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_C4C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_C1C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_C1C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_AC4C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_C3AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_C3P3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* const pDst[3], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_C4P4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* const pDst[4], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_P3C3R(
+    const Zel16u* const pSrc[3], int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_16u_P4C4R(
+    const Zel16u* const pSrc[4], int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_C1MR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32f_C3MR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32f_C4MR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32f_AC4MR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32f_C3CR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_C4CR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_C3C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_C4C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_C1C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_C1C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_AC4C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_C3AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_C3P3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* const pDst[3], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_C4P4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* const pDst[4], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_P3C3R(
+    const Zel32f* const pSrc[3], int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32f_P4C4R(
+    const Zel32f* const pSrc[4], int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_C3R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_C4R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_C1MR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32s_C3MR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32s_C4MR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32s_AC4MR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32s_C3CR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_C4CR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_C3C1R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_C4C1R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_C1C3R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_C1C4R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_AC4C3R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_C3AC4R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_C3P3R(
+    const Zel32s* pSrc, int srcStep, Zel32s* const pDst[3], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_C4P4R(
+    const Zel32s* pSrc, int srcStep, Zel32s* const pDst[4], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_P3C3R(
+    const Zel32s* const pSrc[3], int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliCopy_32s_P4C4R(
+    const Zel32s* const pSrc[4], int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+
+/* zeliSet */
+ZELAPI ZelStatus zeliSet_8u_C1R(Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_8u_C3R(const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_8u_C4R(const Zel8u value[4], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_8u_AC4R(const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_8u_C1MR(
+    Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_8u_C3MR(
+    const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_8u_C4MR(
+    const Zel8u value[4], Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_8u_AC4MR(
+    const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_8u_C3CR(Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_8u_C4CR(Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_16s_C1R(Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_16s_C3R(
+    const Zel16s value[3], Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_16s_C4R(
+    const Zel16s value[4], Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_16s_AC4R(
+    const Zel16s value[3], Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_16s_C1MR(
+    Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_16s_C3MR(
+    const Zel16s value[3], Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_16s_C4MR(
+    const Zel16s value[4], Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_16s_AC4MR(
+    const Zel16s value[3], Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_16s_C3CR(Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_16s_C4CR(Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_16u_C1R(Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_16u_C3R(
+    const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_16u_C4R(
+    const Zel16u value[4], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_16u_AC4R(
+    const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_16u_C1MR(
+    Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_16u_C3MR(
+    const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_16u_C4MR(
+    const Zel16u value[4], Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_16u_AC4MR(
+    const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_16u_C3CR(Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_16u_C4CR(Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_32f_C1R(Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_32f_C3R(
+    const Zel32f value[3], Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_32f_C4R(
+    const Zel32f value[4], Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_32f_AC4R(
+    const Zel32f value[3], Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_32f_C1MR(
+    Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_32f_C3MR(
+    const Zel32f value[3], Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_32f_C4MR(
+    const Zel32f value[4], Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_32f_AC4MR(
+    const Zel32f value[3], Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_32f_C3CR(Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_32f_C4CR(Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_32s_C1R(Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_32s_C3R(
+    const Zel32s value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_32s_C4R(
+    const Zel32s value[4], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_32s_AC4R(
+    const Zel32s value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_32s_C1MR(
+    Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_32s_C3MR(
+    const Zel32s value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_32s_C4MR(
+    const Zel32s value[4], Zel32s* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_32s_AC4MR(
+    const Zel32s value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pMask,
+    int maskStep);
+ZELAPI ZelStatus zeliSet_32s_C3CR(Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSet_32s_C4CR(Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+
+/* zeliDup */
+ZELAPI ZelStatus zeliDup_8u_C1C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDup_8u_C1C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+
+/* zeliCopyManaged */
+ZELAPI ZelStatus zeliCopyManaged_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int flags);
+
+/* ==== Saturating add and subtract =======================================
+
+   Of two images, or of an image and a constant:
+   zeliAdd: dst = src1 + src2; zeliSub: dst = src2 - src1; zeliAddC: dst = src + value;
+   zeliSubC: dst = src - value. Sfs forms scale by two to the minus scaleFactor,
+   round ties to even and saturate; complex forms work part by part.
+
+   Checks: zelStatusNullPointer, then zelStatusBadSize (C3 and C4 forms test
+   the width first); complex forms then zelStatusBadStep. Other forms accept
+   any step.
+
+   Example:
+       Zel8u a[4 * 2] = {10, 20, 250, 255, 0, 1, 2, 3};
+       Zel8u b[4 * 2] = {1, 2, 10, 255, 0, 1, 2, 3};
+       Zel8u half[4 * 2];
+       ZeliSize roi = {4, 2};
+       // half = (a + b) / 2, ties to even: 6, 11, 130, 255, 0, 1, 2, 3
+       ZelStatus st = zeliAdd_8u_C1RSfs(a, 4, b, 4, half, 4, roi, 1); */
+
+/* zeliAdd */
+ZELAPI ZelStatus zeliAdd_8u_C1RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_C1IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_C3RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_C3IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_C4RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_C4IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_AC4RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_AC4IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_C1RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_C1IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_C3RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_C3IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_C4RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_C4IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_AC4RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_AC4IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_C1RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_C1IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_C3RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_C3IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_C4RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_C4IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_AC4RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_AC4IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16sc_C1RSfs(
+    const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16sc_C1IRSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16sc_C3RSfs(
+    const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16sc_C3IRSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16sc_AC4RSfs(
+    const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16sc_AC4IRSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32sc_C1RSfs(
+    const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32sc_C1IRSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32sc_C3RSfs(
+    const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32sc_C3IRSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32sc_AC4RSfs(
+    const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32sc_AC4IRSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32f_C1R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_C1IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_C3R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_C3IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_C4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_C4IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_AC4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_AC4IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32fc_C1R(
+    const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst,
+    int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32fc_C1IR(
+    const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32fc_C3R(
+    const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst,
+    int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32fc_C3IR(
+    const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32fc_AC4R(
+    const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst,
+    int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32fc_AC4IR(
+    const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliSub */
+ZELAPI ZelStatus zeliSub_8u_C1RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_C1IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_C3RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_C3IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_C4RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_C4IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_AC4RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_AC4IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_C1RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_C1IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_C3RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_C3IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_C4RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_C4IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_AC4RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_AC4IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_C1RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_C1IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_C3RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_C3IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_C4RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_C4IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_AC4RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_AC4IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_16sc_C1RSfs(
+    const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16sc_C1IRSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_16sc_C3RSfs(
+    const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16sc_C3IRSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_16sc_AC4RSfs(
+    const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16sc_AC4IRSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_32sc_C1RSfs(
+    const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_32sc_C1IRSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_32sc_C3RSfs(
+    const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_32sc_C3IRSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_32sc_AC4RSfs(
+    const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_32sc_AC4IRSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSub_32f_C1R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_C1IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_C3R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_C3IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_C4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_C4IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_AC4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_AC4IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32fc_C1R(
+    const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst,
+    int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32fc_C1IR(
+    const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32fc_C3R(
+    const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst,
+    int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32fc_C3IR(
+    const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32fc_AC4R(
+    const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst,
+    int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32fc_AC4IR(
+    const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliAddC */
+ZELAPI ZelStatus zeliAddC_8u_C1RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_C1IRSfs(
+    Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_C3RSfs(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_C3IRSfs(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_C4RSfs(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_C4IRSfs(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_AC4RSfs(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_AC4IRSfs(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_C1IRSfs(
+    Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_C3RSfs(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_C3IRSfs(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_C4RSfs(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_C4IRSfs(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_AC4RSfs(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_AC4IRSfs(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_C1RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_C1IRSfs(
+    Zel16s value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_C3RSfs(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_C3IRSfs(
+    const Zel16s* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_C4RSfs(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_C4IRSfs(
+    const Zel16s* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_AC4RSfs(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_AC4IRSfs(
+    const Zel16s* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16sc_C1RSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc value, Zel16sc* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16sc_C1IRSfs(
+    Zel16sc value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16sc_C3RSfs(
+    const Zel16sc* pSrc, int srcStep, const Zel16sc* value, Zel16sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16sc_C3IRSfs(
+    const Zel16sc* value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16sc_AC4RSfs(
+    const Zel16sc* pSrc, int srcStep, const Zel16sc* value, Zel16sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16sc_AC4IRSfs(
+    const Zel16sc* value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32sc_C1RSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc value, Zel32sc* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32sc_C1IRSfs(
+    Zel32sc value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32sc_C3RSfs(
+    const Zel32sc* pSrc, int srcStep, const Zel32sc* value, Zel32sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32sc_C3IRSfs(
+    const Zel32sc* value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32sc_AC4RSfs(
+    const Zel32sc* pSrc, int srcStep, const Zel32sc* value, Zel32sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32sc_AC4IRSfs(
+    const Zel32sc* value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_C1IR(Zel32f value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_C3R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_C3IR(
+    const Zel32f* value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_C4R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_C4IR(
+    const Zel32f* value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_AC4IR(
+    const Zel32f* value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32fc_C1R(
+    const Zel32fc* pSrc, int srcStep, Zel32fc value, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32fc_C1IR(
+    Zel32fc value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32fc_C3R(
+    const Zel32fc* pSrc, int srcStep, const Zel32fc* value, Zel32fc* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32fc_C3IR(
+    const Zel32fc* value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32fc_AC4R(
+    const Zel32fc* pSrc, int srcStep, const Zel32fc* value, Zel32fc* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32fc_AC4IR(
+    const Zel32fc* value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliSubC */
+ZELAPI ZelStatus zeliSubC_8u_C1RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_C1IRSfs(
+    Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_C3RSfs(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_C3IRSfs(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_C4RSfs(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_C4IRSfs(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_AC4RSfs(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_AC4IRSfs(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_C1IRSfs(
+    Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_C3RSfs(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_C3IRSfs(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_C4RSfs(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_C4IRSfs(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_AC4RSfs(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_AC4IRSfs(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_C1RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_C1IRSfs(
+    Zel16s value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_C3RSfs(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_C3IRSfs(
+    const Zel16s* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_C4RSfs(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_C4IRSfs(
+    const Zel16s* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_AC4RSfs(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_AC4IRSfs(
+    const Zel16s* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16sc_C1RSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc value, Zel16sc* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16sc_C1IRSfs(
+    Zel16sc value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16sc_C3RSfs(
+    const Zel16sc* pSrc, int srcStep, const Zel16sc* value, Zel16sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16sc_C3IRSfs(
+    const Zel16sc* value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16sc_AC4RSfs(
+    const Zel16sc* pSrc, int srcStep, const Zel16sc* value, Zel16sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16sc_AC4IRSfs(
+    const Zel16sc* value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32sc_C1RSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc value, Zel32sc* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32sc_C1IRSfs(
+    Zel32sc value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32sc_C3RSfs(
+    const Zel32sc* pSrc, int srcStep, const Zel32sc* value, Zel32sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32sc_C3IRSfs(
+    const Zel32sc* value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32sc_AC4RSfs(
+    const Zel32sc* pSrc, int srcStep, const Zel32sc* value, Zel32sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32sc_AC4IRSfs(
+    const Zel32sc* value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_C1IR(Zel32f value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_C3R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_C3IR(
+    const Zel32f* value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_C4R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_C4IR(
+    const Zel32f* value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_AC4IR(
+    const Zel32f* value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32fc_C1R(
+    const Zel32fc* pSrc, int srcStep, Zel32fc value, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32fc_C1IR(
+    Zel32fc value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32fc_C3R(
+    const Zel32fc* pSrc, int srcStep, const Zel32fc* value, Zel32fc* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32fc_C3IR(
+    const Zel32fc* value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32fc_AC4R(
+    const Zel32fc* pSrc, int srcStep, const Zel32fc* value, Zel32fc* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32fc_AC4IR(
+    const Zel32fc* value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* ==== Multiply ==========================================================
+
+   zeliMul: dst = src1 * src2, zeliMulC: dst = src * value, scaled as
+   the add family (complex forms as complex products); zeliMulScale and
+   zeliMulCScale: the product of two fractions of full scale, divided by the
+   full scale and rounded. The shapes of the entries are those of fn_addsub.h.
+
+   Checks: those of the add family; zeliMulScale and zeliMulCScale test
+   zelStatusNullPointer, zelStatusBadStep, then zelStatusBadSize.
+
+   Example:
+       Zel16s img[3 * 2] = {100, -200, 300, 400, 500, 600};
+       Zel16s out[3 * 2];
+       ZeliSize roi = {3, 2};
+       // img * 384 / 2^8 = img * 1.5: 150, -300, 450, 600, 750, 900
+       ZelStatus st = zeliMulC_16s_C1RSfs(img, 3 * 2, 384, out, 3 * 2, roi, 8); */
+
+/* zeliMul */
+ZELAPI ZelStatus zeliMul_8u_C1RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_C1IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_C3RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_C3IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_C4RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_C4IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_AC4RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_AC4IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_C1RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_C1IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_C3RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_C3IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_C4RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_C4IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_AC4RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_AC4IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_C1RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_C1IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_C3RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_C3IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_C4RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_C4IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_AC4RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_AC4IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_16sc_C1RSfs(
+    const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16sc_C1IRSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_16sc_C3RSfs(
+    const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16sc_C3IRSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_16sc_AC4RSfs(
+    const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16sc_AC4IRSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_32sc_C1RSfs(
+    const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_32sc_C1IRSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_32sc_C3RSfs(
+    const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_32sc_C3IRSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_32sc_AC4RSfs(
+    const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_32sc_AC4IRSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMul_32f_C1R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_C1IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_C3R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_C3IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_C4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_C4IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_AC4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_AC4IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32fc_C1R(
+    const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst,
+    int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32fc_C1IR(
+    const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32fc_C3R(
+    const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst,
+    int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32fc_C3IR(
+    const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32fc_AC4R(
+    const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst,
+    int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32fc_AC4IR(
+    const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliMulC */
+ZELAPI ZelStatus zeliMulC_8u_C1RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_C1IRSfs(
+    Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_C3RSfs(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_C3IRSfs(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_C4RSfs(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_C4IRSfs(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_AC4RSfs(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_AC4IRSfs(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_C1IRSfs(
+    Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_C3RSfs(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_C3IRSfs(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_C4RSfs(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_C4IRSfs(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_AC4RSfs(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_AC4IRSfs(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_C1RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_C1IRSfs(
+    Zel16s value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_C3RSfs(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_C3IRSfs(
+    const Zel16s* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_C4RSfs(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_C4IRSfs(
+    const Zel16s* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_AC4RSfs(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_AC4IRSfs(
+    const Zel16s* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16sc_C1RSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc value, Zel16sc* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16sc_C1IRSfs(
+    Zel16sc value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16sc_C3RSfs(
+    const Zel16sc* pSrc, int srcStep, const Zel16sc* value, Zel16sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16sc_C3IRSfs(
+    const Zel16sc* value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16sc_AC4RSfs(
+    const Zel16sc* pSrc, int srcStep, const Zel16sc* value, Zel16sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16sc_AC4IRSfs(
+    const Zel16sc* value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32sc_C1RSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc value, Zel32sc* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32sc_C1IRSfs(
+    Zel32sc value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32sc_C3RSfs(
+    const Zel32sc* pSrc, int srcStep, const Zel32sc* value, Zel32sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32sc_C3IRSfs(
+    const Zel32sc* value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32sc_AC4RSfs(
+    const Zel32sc* pSrc, int srcStep, const Zel32sc* value, Zel32sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32sc_AC4IRSfs(
+    const Zel32sc* value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_C1IR(Zel32f value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_C3R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_C3IR(
+    const Zel32f* value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_C4R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_C4IR(
+    const Zel32f* value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_AC4IR(
+    const Zel32f* value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32fc_C1R(
+    const Zel32fc* pSrc, int srcStep, Zel32fc value, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32fc_C1IR(
+    Zel32fc value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32fc_C3R(
+    const Zel32fc* pSrc, int srcStep, const Zel32fc* value, Zel32fc* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32fc_C3IR(
+    const Zel32fc* value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32fc_AC4R(
+    const Zel32fc* pSrc, int srcStep, const Zel32fc* value, Zel32fc* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32fc_AC4IR(
+    const Zel32fc* value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliMulScale */
+ZELAPI ZelStatus zeliMulScale_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_C1IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_C3IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_C4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_AC4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_C1IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_C3IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_C4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_AC4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliMulCScale */
+ZELAPI ZelStatus zeliMulCScale_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_C1IR(
+    Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_C3R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_C3IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_C4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_C4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_AC4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_C1IR(
+    Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_C3R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_C3IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_C4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_C4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_AC4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* ==== Divide ============================================================
+
+   zeliDiv: dst = src2 / src1 (in place srcDst / src); zeliDiv_Round the
+   same with round mode 0 towards zero, 1 ties to even, 2 ties away; zeliDivC:
+   dst = src / value. A zero divisor gives a fixed result and the warning
+   zelStatusDivisionByZeroWarning; a zero constant is refused. The shapes of the
+   entries are those of fn_addsub.h.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep, then
+   zelStatusDivisionByZero (zeliDivC) or zelStatusBadRoundMode (zeliDiv_Round:
+   a round mode other than 0, 1, 2). zelStatusDivisionByZeroWarning is a
+   warning: every result is written.
+
+   Example:
+       Zel32f num[4] = {1, 2, 3, 4}, den[4] = {2, 4, 0, 8}, q[4];
+       ZeliSize roi = {4, 1};
+       // q = num / den (the divisor comes first): 0.5, 0.5, +inf, 0.5
+       ZelStatus st = zeliDiv_32f_C1R(den, 16, num, 16, q, 16, roi);
+       if (st == zelStatusDivisionByZeroWarning) st = zelStatusOk; // the +inf */
+
+/* zeliDiv */
+ZELAPI ZelStatus zeliDiv_8u_C1RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C1IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C3RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C3IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C4RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C4IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_AC4RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_AC4IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C1RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C1IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C3RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C3IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C4RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C4IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_AC4RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_AC4IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C1RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C1IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C3RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C3IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C4RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C4IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_AC4RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_AC4IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_C1RSfs(
+    const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_C1IRSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_C3RSfs(
+    const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_C3IRSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_AC4RSfs(
+    const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_AC4IRSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_C1RSfs(
+    const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_C1IRSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_C3RSfs(
+    const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_C3IRSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_AC4RSfs(
+    const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst,
+    int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_AC4IRSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32f_C1R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_32f_C1IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_32f_C3R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_32f_C3IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_32f_C4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_32f_C4IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_32f_AC4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_32f_AC4IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_32fc_C1R(
+    const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst,
+    int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_32fc_C1IR(
+    const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_32fc_C3R(
+    const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst,
+    int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_32fc_C3IR(
+    const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_32fc_AC4R(
+    const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst,
+    int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_32fc_AC4IR(
+    const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDiv_Round_8u_C1RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C1IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C3RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C3IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C4RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C4IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_AC4RSfs(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_AC4IRSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C1RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C1IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C3RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C3IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C4RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C4IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_AC4RSfs(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_AC4IRSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C1RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C1IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C3RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C3IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C4RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C4IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_AC4RSfs(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, ZelRoundMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_AC4IRSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize,
+    ZelRoundMode rndMode, int scaleFactor);
+
+/* zeliDivC */
+ZELAPI ZelStatus zeliDivC_8u_C1RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C1IRSfs(
+    Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C3RSfs(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C3IRSfs(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C4RSfs(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C4IRSfs(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_AC4RSfs(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_AC4IRSfs(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C1IRSfs(
+    Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C3RSfs(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C3IRSfs(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C4RSfs(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C4IRSfs(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_AC4RSfs(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_AC4IRSfs(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C1RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C1IRSfs(
+    Zel16s value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C3RSfs(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C3IRSfs(
+    const Zel16s* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C4RSfs(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C4IRSfs(
+    const Zel16s* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_AC4RSfs(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_AC4IRSfs(
+    const Zel16s* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_C1RSfs(
+    const Zel16sc* pSrc, int srcStep, Zel16sc value, Zel16sc* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_C1IRSfs(
+    Zel16sc value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_C3RSfs(
+    const Zel16sc* pSrc, int srcStep, const Zel16sc* value, Zel16sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_C3IRSfs(
+    const Zel16sc* value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_AC4RSfs(
+    const Zel16sc* pSrc, int srcStep, const Zel16sc* value, Zel16sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_AC4IRSfs(
+    const Zel16sc* value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_C1RSfs(
+    const Zel32sc* pSrc, int srcStep, Zel32sc value, Zel32sc* pDst, int dstStep, ZeliSize roiSize,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_C1IRSfs(
+    Zel32sc value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_C3RSfs(
+    const Zel32sc* pSrc, int srcStep, const Zel32sc* value, Zel32sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_C3IRSfs(
+    const Zel32sc* value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_AC4RSfs(
+    const Zel32sc* pSrc, int srcStep, const Zel32sc* value, Zel32sc* pDst, int dstStep,
+    ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_AC4IRSfs(
+    const Zel32sc* value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDivC_32f_C1IR(Zel32f value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDivC_32f_C3R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliDivC_32f_C3IR(
+    const Zel32f* value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDivC_32f_C4R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliDivC_32f_C4IR(
+    const Zel32f* value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDivC_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel32f* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliDivC_32f_AC4IR(
+    const Zel32f* value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDivC_32fc_C1R(
+    const Zel32fc* pSrc, int srcStep, Zel32fc value, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDivC_32fc_C1IR(
+    Zel32fc value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDivC_32fc_C3R(
+    const Zel32fc* pSrc, int srcStep, const Zel32fc* value, Zel32fc* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliDivC_32fc_C3IR(
+    const Zel32fc* value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliDivC_32fc_AC4R(
+    const Zel32fc* pSrc, int srcStep, const Zel32fc* value, Zel32fc* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliDivC_32fc_AC4IR(
+    const Zel32fc* value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* ==== Sample type conversion and range scaling ==========================
+
+   zeliConvert keeps the value: widening exactly, narrowing with saturation,
+   signed to unsigned with negatives to 0 (Rs), float to integer with a round
+   mode (0 towards zero, 1 nearest, other: ties away from zero), Sfs forms
+   scaled by 2^-scaleFactor, and bits to bytes.
+   zeliScale keeps the position in the range: full range of one type onto the
+   full range of another, or [vMin, vMax] onto or from the 8u range.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep (not in the
+   Rs forms); zeliScale tests zelStatusBadScaleRange first of all. The round
+   mode is not checked: any value other than 0 and 1 rounds ties away from zero.
+
+   Example:
+       Zel32f f[4] = {0.5f, 1.5f, -3.0f, 300.0f};
+       Zel8u u[4];
+       ZeliSize roi = {4, 1};
+       // to nearest, ties to even, saturated: 0, 2, 0, 255
+       ZelStatus st = zeliConvert_32f8u_C1R(f, 16, u, 4, roi, zelRoundNear); */
+
+/* zeliConvert */
+ZELAPI ZelStatus zeliConvert_8u16s_C1R(
+    const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u16s_C3R(
+    const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u16s_C4R(
+    const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u16s_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u16u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u16u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u16u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u16u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u32f_C1R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u32f_C3R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u32f_C4R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u32f_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u32s_C1R(
+    const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u32s_C3R(
+    const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u32s_C4R(
+    const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8u32s_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8s32f_C1R(
+    const Zel8s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8s32f_C3R(
+    const Zel8s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8s32f_C4R(
+    const Zel8s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8s32f_AC4R(
+    const Zel8s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8s32s_C1R(
+    const Zel8s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8s32s_C3R(
+    const Zel8s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8s32s_C4R(
+    const Zel8s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8s32s_AC4R(
+    const Zel8s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s8u_C1R(
+    const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s8u_C3R(
+    const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s8u_C4R(
+    const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s8u_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s32f_C1R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s32f_C3R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s32f_C4R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s32f_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s32s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s32s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s32s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s32s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16u8u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16u8u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16u8u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16u8u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16u32f_C1R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16u32f_C3R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16u32f_C4R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16u32f_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16u32s_C1R(
+    const Zel16u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16u32s_C3R(
+    const Zel16u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16u32s_C4R(
+    const Zel16u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16u32s_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_32s8s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_32s8s_C3R(
+    const Zel32s* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_32s8s_C4R(
+    const Zel32s* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_32s8s_AC4R(
+    const Zel32s* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_32s8u_C1R(
+    const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_32s8u_C3R(
+    const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_32s8u_C4R(
+    const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_32s8u_AC4R(
+    const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_32f8s_C1R(
+    const Zel32f* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8s_C3R(
+    const Zel32f* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8s_C4R(
+    const Zel32f* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8s_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8s_C1RSfs(
+    const Zel32f* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_32f8u_C1R(
+    const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8u_C3R(
+    const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8u_C4R(
+    const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8u_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8u_C1RSfs(
+    const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_32f16s_C1R(
+    const Zel32f* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16s_C3R(
+    const Zel32f* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16s_C4R(
+    const Zel32f* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16s_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16s_C1RSfs(
+    const Zel32f* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_32f16u_C1R(
+    const Zel32f* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16u_C3R(
+    const Zel32f* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16u_C4R(
+    const Zel32f* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16u_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16u_C1RSfs(
+    const Zel32f* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_8u8s_C1RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_16s8s_C1RSfs(
+    const Zel16s* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_16u8s_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_16u16s_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_32f32s_C1RSfs(
+    const Zel32f* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_32s16s_C1RSfs(
+    const Zel32s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_32s16u_C1RSfs(
+    const Zel32s* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_32u8s_C1RSfs(
+    const Zel32u* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_32u8u_C1RSfs(
+    const Zel32u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_32u16s_C1RSfs(
+    const Zel32u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_32u16u_C1RSfs(
+    const Zel32u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_32u32s_C1RSfs(
+    const Zel32u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_8s16s_C1R(
+    const Zel8s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16u32u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel32u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_32s32f_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_32u32f_C1R(
+    const Zel32u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_1u8u_C1R(
+    const Zel8u* pSrc, int srcStep, int srcBitOffset, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8s8u_C1Rs(
+    const Zel8s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8s16u_C1Rs(
+    const Zel8s* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_8s32u_C1Rs(
+    const Zel8s* pSrc, int srcStep, Zel32u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s16u_C1Rs(
+    const Zel16s* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_16s32u_C1Rs(
+    const Zel16s* pSrc, int srcStep, Zel32u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_32s32u_C1Rs(
+    const Zel32s* pSrc, int srcStep, Zel32u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliConvert_32f32u_C1RSfs(
+    const Zel32f* pSrc, int srcStep, Zel32u* pDst, int dstStep, ZeliSize roiSize,
+    ZelRoundMode roundMode, int scaleFactor);
+ZELAPI ZelStatus zeliConvert_32f32u_C1IRSfs(
+    Zel32u* pSrcDst, int srcDstStep, ZeliSize roiSize, ZelRoundMode roundMode, int scaleFactor);
+
+/* zeliScale */
+ZELAPI ZelStatus zeliScale_8u16s_C1R(
+    const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliScale_8u16s_C3R(
+    const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliScale_8u16s_C4R(
+    const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliScale_8u16s_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliScale_8u16u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliScale_8u16u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliScale_8u16u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliScale_8u16u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliScale_8u32s_C1R(
+    const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliScale_8u32s_C3R(
+    const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliScale_8u32s_C4R(
+    const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliScale_8u32s_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliScale_16s8u_C1R(
+    const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliScale_16s8u_C3R(
+    const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliScale_16s8u_C4R(
+    const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliScale_16s8u_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliScale_16u8u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliScale_16u8u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliScale_16u8u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliScale_16u8u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliScale_32s8u_C1R(
+    const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliScale_32s8u_C3R(
+    const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliScale_32s8u_C4R(
+    const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliScale_32s8u_AC4R(
+    const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliScale_8u32f_C1R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, Zel32f vMin,
+    Zel32f vMax);
+ZELAPI ZelStatus zeliScale_8u32f_C3R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, Zel32f vMin,
+    Zel32f vMax);
+ZELAPI ZelStatus zeliScale_8u32f_C4R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, Zel32f vMin,
+    Zel32f vMax);
+ZELAPI ZelStatus zeliScale_8u32f_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, Zel32f vMin,
+    Zel32f vMax);
+ZELAPI ZelStatus zeliScale_32f8u_C1R(
+    const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, Zel32f vMin,
+    Zel32f vMax);
+ZELAPI ZelStatus zeliScale_32f8u_C3R(
+    const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, Zel32f vMin,
+    Zel32f vMax);
+ZELAPI ZelStatus zeliScale_32f8u_C4R(
+    const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, Zel32f vMin,
+    Zel32f vMax);
+ZELAPI ZelStatus zeliScale_32f8u_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, Zel32f vMin,
+    Zel32f vMax);
+
+/* ==== Border copies =====================================================
+
+   The source of srcRoiSize is placed at (leftBorderWidth,
+   topBorderHeight) in a destination of dstRoiSize, and the frame around it
+   is filled with a constant (ConstBorder), the nearest edge pixel
+   (ReplicateBorder) or the image repeated cyclically (WrapBorder). In the I
+   forms pSrcDst points at the first source pixel inside the destination and
+   only the frame is written. AC4 leaves every destination alpha alone.
+
+   Checks: zelStatusNullPointer, zelStatusBadStep, then zelStatusBadSize (also
+   for a destination smaller than the source plus the borders, or a negative
+   border).
+
+   Example:
+       Zel8u src[2 * 2] = {1, 2, 3, 4};
+       Zel8u dst[4 * 4];
+       ZeliSize srcRoi = {2, 2}, dstRoi = {4, 4};
+       // a frame of zeros, one pixel wide, around the 2x2 image
+       ZelStatus st = zeliCopyConstBorder_8u_C1R(src, 2, srcRoi, dst, 4, dstRoi, 1, 1, 0); */
+
+/* zeliCopyConstBorder */
+ZELAPI ZelStatus zeliCopyConstBorder_8u_C1R(
+    const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Zel8u value);
+ZELAPI ZelStatus zeliCopyConstBorder_8u_C3R(
+    const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel8u* value);
+ZELAPI ZelStatus zeliCopyConstBorder_8u_C4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel8u* value);
+ZELAPI ZelStatus zeliCopyConstBorder_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel8u* value);
+ZELAPI ZelStatus zeliCopyConstBorder_16s_C1R(
+    const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Zel16s value);
+ZELAPI ZelStatus zeliCopyConstBorder_16s_C3R(
+    const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel16s* value);
+ZELAPI ZelStatus zeliCopyConstBorder_16s_C4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel16s* value);
+ZELAPI ZelStatus zeliCopyConstBorder_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel16s* value);
+ZELAPI ZelStatus zeliCopyConstBorder_16u_C1R(
+    const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Zel16u value);
+ZELAPI ZelStatus zeliCopyConstBorder_16u_C3R(
+    const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel16u* value);
+ZELAPI ZelStatus zeliCopyConstBorder_16u_C4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel16u* value);
+ZELAPI ZelStatus zeliCopyConstBorder_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel16u* value);
+ZELAPI ZelStatus zeliCopyConstBorder_32f_C1R(
+    const Zel32f* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32f* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Zel32f value);
+ZELAPI ZelStatus zeliCopyConstBorder_32f_C3R(
+    const Zel32f* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32f* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel32f* value);
+ZELAPI ZelStatus zeliCopyConstBorder_32f_C4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32f* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel32f* value);
+ZELAPI ZelStatus zeliCopyConstBorder_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32f* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel32f* value);
+ZELAPI ZelStatus zeliCopyConstBorder_32s_C1R(
+    const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Zel32s value);
+ZELAPI ZelStatus zeliCopyConstBorder_32s_C3R(
+    const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel32s* value);
+ZELAPI ZelStatus zeliCopyConstBorder_32s_C4R(
+    const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel32s* value);
+ZELAPI ZelStatus zeliCopyConstBorder_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel32s* value);
+
+/* zeliCopyReplicateBorder */
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_C1R(
+    const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_C1IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_C3R(
+    const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_C3IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_C4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_C4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_AC4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_C1R(
+    const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_C1IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_C3R(
+    const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_C3IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_C4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_C4IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_AC4IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_C1R(
+    const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_C1IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_C3R(
+    const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_C3IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_C4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_C4IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_AC4IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32f_C1R(
+    const Zel32f* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32f* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32f_C1IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32f_C3R(
+    const Zel32f* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32f* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32f_C3IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32f_C4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32f* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32f_C4IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32f* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32f_AC4IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_C1R(
+    const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_C1IR(
+    Zel32s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_C3R(
+    const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_C3IR(
+    Zel32s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_C4R(
+    const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_C4IR(
+    Zel32s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_AC4IR(
+    Zel32s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+
+/* zeliCopyWrapBorder */
+ZELAPI ZelStatus zeliCopyWrapBorder_32f_C1R(
+    const Zel32f* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32f* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyWrapBorder_32f_C1IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyWrapBorder_32s_C1R(
+    const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep,
+    ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyWrapBorder_32s_C1IR(
+    Zel32s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight,
+    int leftBorderWidth);
+
+/* ==== Reordering ========================================================
+
+   zeliSwapChannels: dst channel c = src channel dstOrder[c] (C3C4R: an entry 3
+   writes val, a larger single entry keeps the destination channel).
+   zeliTranspose: dst(y, x) = src(x, y); roiSize is the source size.
+   zeliMirror: flip about the horizontal axis (0), the vertical axis (1) or both (2).
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, then zelStatusBadStep and
+   zelStatusBadChannelOrder (zeliSwapChannels) or zelStatusBadAxis (zeliMirror:
+   -8, -6, -21, and an axis that flips a single row or column is a bad size).
+   zeliTranspose checks no step; its in-place forms need a square region.
+
+   Example:
+       Zel8u rgb[2 * 3] = {1, 2, 3, 4, 5, 6}, bgr[2 * 3];
+       const int order[3] = {2, 1, 0};
+       ZeliSize roi = {2, 1};
+       // bgr = 3, 2, 1, 6, 5, 4, then mirrored left to right: 6, 5, 4, 3, 2, 1
+       ZelStatus st = zeliSwapChannels_8u_C3R(rgb, 6, bgr, 6, roi, order);
+       if (st == zelStatusOk) st = zeliMirror_8u_C3IR(bgr, 6, roi, zelAxisVertical); */
+
+/* zeliSwapChannels */
+ZELAPI ZelStatus zeliSwapChannels_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_8u_C3C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[4], Zel8u val);
+ZELAPI ZelStatus zeliSwapChannels_8u_C4C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_16u_C3C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[4], Zel16u val);
+ZELAPI ZelStatus zeliSwapChannels_16u_C4C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_16s_C3C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[4], Zel16s val);
+ZELAPI ZelStatus zeliSwapChannels_16s_C4C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_32s_C3R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_32s_C3C4R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[4], Zel32s val);
+ZELAPI ZelStatus zeliSwapChannels_32s_C4C3R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_32f_C3C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[4], Zel32f val);
+ZELAPI ZelStatus zeliSwapChannels_32f_C4C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_8u_C3IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_8u_C4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const int dstOrder[4]);
+
+/* zeliTranspose */
+ZELAPI ZelStatus zeliTranspose_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_8u_C4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_16u_C1IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_16u_C3IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_16u_C4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_16s_C1IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_16s_C3IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_16s_C4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_32s_C1IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_32s_C3R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_32s_C3IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_32s_C4R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_32s_C4IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliTranspose_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliMirror */
+ZELAPI ZelStatus zeliMirror_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_8u_C1IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_8u_C3IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_8u_C4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_8u_AC4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16u_C1IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16u_C3IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16u_C4IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16u_AC4IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16s_C1IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16s_C3IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16s_C4IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_16s_AC4IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32s_C1IR(
+    Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32s_C3R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32s_C3IR(
+    Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32s_C4R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32s_C4IR(
+    Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32s_AC4IR(
+    Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32f_C1IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32f_C3IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32f_C4IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, ZeliAxis flip);
+ZELAPI ZelStatus zeliMirror_32f_AC4IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
+
+/* ==== Compare ===========================================================
+
+   zeliCompare, zeliCompareC: dst = 255 where src1 <op> src2 (or the constant)
+   holds in every channel of the pixel (AC4: the first three), else 0; dst has
+   one channel. An operator above 4 does nothing.
+   zeliCompareEqualEps(C): 255 where |a - b| <= eps in every channel.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep, then
+   zelStatusBadEpsilon for eps below zero. zeliCompare and zeliCompareC return
+   zelStatusOk for an operator above 4 and write nothing.
+
+   Example:
+       Zel8u img[4 * 2] = {10, 200, 90, 30, 250, 0, 128, 129};
+       Zel8u mask[4 * 2];
+       ZeliSize roi = {4, 2};
+       // mask = 255 where img > 100, else 0
+       ZelStatus st = zeliCompareC_8u_C1R(img, 4, 100, mask, 4, roi, zelCmpGreater); */
+
+/* zeliCompare */
+ZELAPI ZelStatus zeliCompare_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_16s_C1R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_16s_C3R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_16s_C4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_16s_AC4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_32f_C1R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_32f_C3R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_32f_C4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompare_32f_AC4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+
+/* zeliCompareC */
+ZELAPI ZelStatus zeliCompareC_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_8u_C3R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_8u_C4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_16u_C3R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_16u_C4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_16s_C3R(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_16s_C4R(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, const Zel16s* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_32f_C3R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_32f_C4R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliCompareC_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, ZelCmpOp zelCmpOp);
+
+/* zeliCompareEqualEps */
+ZELAPI ZelStatus zeliCompareEqualEps_32f_C1R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, Zel32f eps);
+ZELAPI ZelStatus zeliCompareEqualEps_32f_C3R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, Zel32f eps);
+ZELAPI ZelStatus zeliCompareEqualEps_32f_C4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, Zel32f eps);
+ZELAPI ZelStatus zeliCompareEqualEps_32f_AC4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, Zel32f eps);
+
+/* zeliCompareEqualEpsC */
+ZELAPI ZelStatus zeliCompareEqualEpsC_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f value, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    Zel32f eps);
+ZELAPI ZelStatus zeliCompareEqualEpsC_32f_C3R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, Zel32f eps);
+ZELAPI ZelStatus zeliCompareEqualEpsC_32f_C4R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, Zel32f eps);
+ZELAPI ZelStatus zeliCompareEqualEpsC_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize, Zel32f eps);
+
+/* ==== Threshold =========================================================
+
+   zeliThreshold: x beyond a level becomes the level (plain, GT, LT) or a value
+   (Val, GTVal, LTVal, LTValGTVal); NaN samples stay.
+   zeliComputeThreshold_Otsu_8u_C1R: the level that best splits the histogram.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep, then the
+   family's own: zelStatusBadThreshold when thresholdLT is above thresholdGT,
+   zelStatusBadMode for a threshold operator other than zelCmpLess and
+   zelCmpGreater.
+
+   Example:
+       Zel8u img[4 * 2] = {10, 200, 90, 30, 250, 0, 128, 129};
+       Zel8u level = 0, out[4 * 2];
+       ZeliSize roi = {4, 2};
+       ZelStatus st = zeliComputeThreshold_Otsu_8u_C1R(img, 4, roi, &level);
+       // samples above the level become the level
+       if (st == zelStatusOk) st = zeliThreshold_GT_8u_C1R(img, 4, out, 4, roi, level); */
+
+/* zeliThreshold */
+ZELAPI ZelStatus zeliThreshold_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, Zel8u threshold,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_8u_C1IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel8u threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GT_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, Zel8u threshold);
+ZELAPI ZelStatus zeliThreshold_GT_8u_C1IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel8u threshold);
+ZELAPI ZelStatus zeliThreshold_LT_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, Zel8u threshold);
+ZELAPI ZelStatus zeliThreshold_LT_8u_C1IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel8u threshold);
+ZELAPI ZelStatus zeliThreshold_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_8u_C3IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GT_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold);
+ZELAPI ZelStatus zeliThreshold_GT_8u_C3IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_8u_C3IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold);
+ZELAPI ZelStatus zeliThreshold_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_8u_AC4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GT_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold);
+ZELAPI ZelStatus zeliThreshold_GT_8u_AC4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_8u_AC4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold);
+ZELAPI ZelStatus zeliThreshold_Val_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, Zel8u threshold,
+    Zel8u value, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_Val_8u_C1IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel8u threshold, Zel8u value,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GTVal_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, Zel8u threshold,
+    Zel8u value);
+ZELAPI ZelStatus zeliThreshold_GTVal_8u_C1IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel8u threshold, Zel8u value);
+ZELAPI ZelStatus zeliThreshold_LTVal_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, Zel8u threshold,
+    Zel8u value);
+ZELAPI ZelStatus zeliThreshold_LTVal_8u_C1IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel8u threshold, Zel8u value);
+ZELAPI ZelStatus zeliThreshold_Val_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold, const Zel8u* value, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_Val_8u_C3IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold, const Zel8u* value,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GTVal_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold, const Zel8u* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_8u_C3IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold, const Zel8u* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold, const Zel8u* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_8u_C3IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold, const Zel8u* value);
+ZELAPI ZelStatus zeliThreshold_Val_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold, const Zel8u* value, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_Val_8u_AC4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold, const Zel8u* value,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GTVal_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold, const Zel8u* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_8u_AC4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold, const Zel8u* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold, const Zel8u* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_8u_AC4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold, const Zel8u* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold, const Zel8u* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_8u_C4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold, const Zel8u* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* threshold, const Zel8u* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_8u_C4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* threshold, const Zel8u* value);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, Zel8u thresholdLT,
+    Zel8u valueLT, Zel8u thresholdGT, Zel8u valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_8u_C1IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel8u thresholdLT, Zel8u valueLT,
+    Zel8u thresholdGT, Zel8u valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* thresholdLT, const Zel8u* valueLT, const Zel8u* thresholdGT, const Zel8u* valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_8u_C3IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* thresholdLT,
+    const Zel8u* valueLT, const Zel8u* thresholdGT, const Zel8u* valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel8u* thresholdLT, const Zel8u* valueLT, const Zel8u* thresholdGT, const Zel8u* valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_8u_AC4IR(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel8u* thresholdLT,
+    const Zel8u* valueLT, const Zel8u* thresholdGT, const Zel8u* valueGT);
+ZELAPI ZelStatus zeliThreshold_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, Zel16u threshold,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_16u_C1IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16u threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GT_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, Zel16u threshold);
+ZELAPI ZelStatus zeliThreshold_GT_16u_C1IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16u threshold);
+ZELAPI ZelStatus zeliThreshold_LT_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, Zel16u threshold);
+ZELAPI ZelStatus zeliThreshold_LT_16u_C1IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16u threshold);
+ZELAPI ZelStatus zeliThreshold_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_16u_C3IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GT_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold);
+ZELAPI ZelStatus zeliThreshold_GT_16u_C3IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_16u_C3IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold);
+ZELAPI ZelStatus zeliThreshold_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_16u_AC4IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GT_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold);
+ZELAPI ZelStatus zeliThreshold_GT_16u_AC4IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_16u_AC4IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold);
+ZELAPI ZelStatus zeliThreshold_Val_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, Zel16u threshold,
+    Zel16u value, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_Val_16u_C1IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16u threshold, Zel16u value,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GTVal_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, Zel16u threshold,
+    Zel16u value);
+ZELAPI ZelStatus zeliThreshold_GTVal_16u_C1IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16u threshold, Zel16u value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, Zel16u threshold,
+    Zel16u value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16u_C1IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16u threshold, Zel16u value);
+ZELAPI ZelStatus zeliThreshold_Val_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold, const Zel16u* value, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_Val_16u_C3IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold, const Zel16u* value,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GTVal_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold, const Zel16u* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_16u_C3IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold,
+    const Zel16u* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold, const Zel16u* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16u_C3IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold,
+    const Zel16u* value);
+ZELAPI ZelStatus zeliThreshold_Val_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold, const Zel16u* value, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_Val_16u_AC4IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold, const Zel16u* value,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GTVal_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold, const Zel16u* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_16u_AC4IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold,
+    const Zel16u* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold, const Zel16u* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16u_AC4IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold,
+    const Zel16u* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold, const Zel16u* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_16u_C4IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold,
+    const Zel16u* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* threshold, const Zel16u* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16u_C4IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* threshold,
+    const Zel16u* value);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    Zel16u thresholdLT, Zel16u valueLT, Zel16u thresholdGT, Zel16u valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_16u_C1IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16u thresholdLT, Zel16u valueLT,
+    Zel16u thresholdGT, Zel16u valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* thresholdLT, const Zel16u* valueLT, const Zel16u* thresholdGT,
+    const Zel16u* valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_16u_C3IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* thresholdLT,
+    const Zel16u* valueLT, const Zel16u* thresholdGT, const Zel16u* valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16u* thresholdLT, const Zel16u* valueLT, const Zel16u* thresholdGT,
+    const Zel16u* valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_16u_AC4IR(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16u* thresholdLT,
+    const Zel16u* valueLT, const Zel16u* thresholdGT, const Zel16u* valueGT);
+ZELAPI ZelStatus zeliThreshold_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, Zel16s threshold,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_16s_C1IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16s threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GT_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, Zel16s threshold);
+ZELAPI ZelStatus zeliThreshold_GT_16s_C1IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16s threshold);
+ZELAPI ZelStatus zeliThreshold_LT_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, Zel16s threshold);
+ZELAPI ZelStatus zeliThreshold_LT_16s_C1IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16s threshold);
+ZELAPI ZelStatus zeliThreshold_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_16s_C3IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GT_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold);
+ZELAPI ZelStatus zeliThreshold_GT_16s_C3IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_16s_C3IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold);
+ZELAPI ZelStatus zeliThreshold_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_16s_AC4IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GT_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold);
+ZELAPI ZelStatus zeliThreshold_GT_16s_AC4IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_16s_AC4IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold);
+ZELAPI ZelStatus zeliThreshold_Val_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, Zel16s threshold,
+    Zel16s value, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_Val_16s_C1IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16s threshold, Zel16s value,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GTVal_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, Zel16s threshold,
+    Zel16s value);
+ZELAPI ZelStatus zeliThreshold_GTVal_16s_C1IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16s threshold, Zel16s value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, Zel16s threshold,
+    Zel16s value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16s_C1IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16s threshold, Zel16s value);
+ZELAPI ZelStatus zeliThreshold_Val_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold, const Zel16s* value, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_Val_16s_C3IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold, const Zel16s* value,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GTVal_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold, const Zel16s* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_16s_C3IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold,
+    const Zel16s* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold, const Zel16s* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16s_C3IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold,
+    const Zel16s* value);
+ZELAPI ZelStatus zeliThreshold_Val_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold, const Zel16s* value, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_Val_16s_AC4IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold, const Zel16s* value,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GTVal_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold, const Zel16s* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_16s_AC4IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold,
+    const Zel16s* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold, const Zel16s* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16s_AC4IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold,
+    const Zel16s* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold, const Zel16s* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_16s_C4IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold,
+    const Zel16s* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* threshold, const Zel16s* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_16s_C4IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* threshold,
+    const Zel16s* value);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    Zel16s thresholdLT, Zel16s valueLT, Zel16s thresholdGT, Zel16s valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_16s_C1IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel16s thresholdLT, Zel16s valueLT,
+    Zel16s thresholdGT, Zel16s valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* thresholdLT, const Zel16s* valueLT, const Zel16s* thresholdGT,
+    const Zel16s* valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_16s_C3IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* thresholdLT,
+    const Zel16s* valueLT, const Zel16s* thresholdGT, const Zel16s* valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize,
+    const Zel16s* thresholdLT, const Zel16s* valueLT, const Zel16s* thresholdGT,
+    const Zel16s* valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_16s_AC4IR(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel16s* thresholdLT,
+    const Zel16s* valueLT, const Zel16s* thresholdGT, const Zel16s* valueGT);
+ZELAPI ZelStatus zeliThreshold_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, Zel32f threshold,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_32f_C1IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel32f threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GT_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, Zel32f threshold);
+ZELAPI ZelStatus zeliThreshold_GT_32f_C1IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel32f threshold);
+ZELAPI ZelStatus zeliThreshold_LT_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, Zel32f threshold);
+ZELAPI ZelStatus zeliThreshold_LT_32f_C1IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel32f threshold);
+ZELAPI ZelStatus zeliThreshold_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_32f_C3IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GT_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold);
+ZELAPI ZelStatus zeliThreshold_GT_32f_C3IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_32f_C3IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold);
+ZELAPI ZelStatus zeliThreshold_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_32f_AC4IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GT_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold);
+ZELAPI ZelStatus zeliThreshold_GT_32f_AC4IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold);
+ZELAPI ZelStatus zeliThreshold_LT_32f_AC4IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold);
+ZELAPI ZelStatus zeliThreshold_Val_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, Zel32f threshold,
+    Zel32f value, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_Val_32f_C1IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel32f threshold, Zel32f value,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GTVal_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, Zel32f threshold,
+    Zel32f value);
+ZELAPI ZelStatus zeliThreshold_GTVal_32f_C1IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel32f threshold, Zel32f value);
+ZELAPI ZelStatus zeliThreshold_LTVal_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, Zel32f threshold,
+    Zel32f value);
+ZELAPI ZelStatus zeliThreshold_LTVal_32f_C1IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel32f threshold, Zel32f value);
+ZELAPI ZelStatus zeliThreshold_Val_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold, const Zel32f* value, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_Val_32f_C3IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold, const Zel32f* value,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GTVal_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold, const Zel32f* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_32f_C3IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold,
+    const Zel32f* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold, const Zel32f* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_32f_C3IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold,
+    const Zel32f* value);
+ZELAPI ZelStatus zeliThreshold_Val_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold, const Zel32f* value, ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_Val_32f_AC4IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold, const Zel32f* value,
+    ZelCmpOp zelCmpOp);
+ZELAPI ZelStatus zeliThreshold_GTVal_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold, const Zel32f* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_32f_AC4IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold,
+    const Zel32f* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold, const Zel32f* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_32f_AC4IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold,
+    const Zel32f* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold, const Zel32f* value);
+ZELAPI ZelStatus zeliThreshold_GTVal_32f_C4IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold,
+    const Zel32f* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* threshold, const Zel32f* value);
+ZELAPI ZelStatus zeliThreshold_LTVal_32f_C4IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* threshold,
+    const Zel32f* value);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    Zel32f thresholdLT, Zel32f valueLT, Zel32f thresholdGT, Zel32f valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_32f_C1IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, Zel32f thresholdLT, Zel32f valueLT,
+    Zel32f thresholdGT, Zel32f valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* thresholdLT, const Zel32f* valueLT, const Zel32f* thresholdGT,
+    const Zel32f* valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_32f_C3IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* thresholdLT,
+    const Zel32f* valueLT, const Zel32f* thresholdGT, const Zel32f* valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize,
+    const Zel32f* thresholdLT, const Zel32f* valueLT, const Zel32f* thresholdGT,
+    const Zel32f* valueGT);
+ZELAPI ZelStatus zeliThreshold_LTValGTVal_32f_AC4IR(
+    Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* thresholdLT,
+    const Zel32f* valueLT, const Zel32f* thresholdGT, const Zel32f* valueGT);
+
+/* zeliComputeThreshold */
+ZELAPI ZelStatus zeliComputeThreshold_Otsu_8u_C1R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pThreshold);
+
+/* ==== Sums, means and dot products ======================================
+
+   zeliSum / zeliMean reduce an image to one Zel64f a channel (3 for AC4R, the
+   alpha is skipped); integer samples are summed exactly, Zel32f in Zel32f lanes
+   per row unless the hint is zelAlgHintAccurate (2), which sums in Zel64f.
+   zeliDotProd reduces a pair of images the same way; zeliDotProdCol forms
+   pDst[j] = sum over k of ppSrcList[k][j] * pCoeffs[k].
+
+   Checks: zelStatusNullPointer, then zelStatusBadSize; steps are not checked
+   (zeliDotProd refuses a step of 0 as a bad size).
+
+   Example:
+       Zel8u img[3 * 2] = {1, 2, 3, 4, 5, 6};
+       Zel64f sum = 0, mean = 0;
+       ZeliSize roi = {3, 2};
+       ZelStatus st = zeliSum_8u_C1R(img, 3, roi, &sum); // 21
+       if (st == zelStatusOk) st = zeliMean_8u_C1R(img, 3, roi, &mean); // 3.5 */
+
+/* zeliSum */
+ZELAPI ZelStatus zeliSum_8u_C1R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum);
+ZELAPI ZelStatus zeliSum_8u_C3R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum);
+ZELAPI ZelStatus zeliSum_8u_C4R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum);
+ZELAPI ZelStatus zeliSum_8u_AC4R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum);
+ZELAPI ZelStatus zeliSum_16u_C1R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum);
+ZELAPI ZelStatus zeliSum_16u_C3R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum);
+ZELAPI ZelStatus zeliSum_16u_C4R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum);
+ZELAPI ZelStatus zeliSum_16u_AC4R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum);
+ZELAPI ZelStatus zeliSum_16s_C1R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum);
+ZELAPI ZelStatus zeliSum_16s_C3R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum);
+ZELAPI ZelStatus zeliSum_16s_C4R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum);
+ZELAPI ZelStatus zeliSum_16s_AC4R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum);
+ZELAPI ZelStatus zeliSum_32f_C1R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliSum_32f_C3R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliSum_32f_C4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliSum_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum, ZelHintAlgorithm hint);
+
+/* zeliMean */
+ZELAPI ZelStatus zeliMean_8u_C1R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean);
+ZELAPI ZelStatus zeliMean_8u_C3R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean);
+ZELAPI ZelStatus zeliMean_8u_C4R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean);
+ZELAPI ZelStatus zeliMean_8u_AC4R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean);
+ZELAPI ZelStatus zeliMean_16u_C1R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean);
+ZELAPI ZelStatus zeliMean_16u_C3R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean);
+ZELAPI ZelStatus zeliMean_16u_C4R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean);
+ZELAPI ZelStatus zeliMean_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean);
+ZELAPI ZelStatus zeliMean_16s_C1R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean);
+ZELAPI ZelStatus zeliMean_16s_C3R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean);
+ZELAPI ZelStatus zeliMean_16s_C4R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean);
+ZELAPI ZelStatus zeliMean_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean);
+ZELAPI ZelStatus zeliMean_32f_C1R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliMean_32f_C3R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliMean_32f_C4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliMean_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pMean, ZelHintAlgorithm hint);
+
+/* zeliDotProd */
+ZELAPI ZelStatus zeliDotProd_8u64f_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_8u64f_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_8u64f_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_8u64f_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_8s64f_C1R(
+    const Zel8s* pSrc1, int src1Step, const Zel8s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_8s64f_C3R(
+    const Zel8s* pSrc1, int src1Step, const Zel8s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_8s64f_C4R(
+    const Zel8s* pSrc1, int src1Step, const Zel8s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_8s64f_AC4R(
+    const Zel8s* pSrc1, int src1Step, const Zel8s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_16u64f_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_16u64f_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_16u64f_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_16u64f_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_16s64f_C1R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_16s64f_C3R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_16s64f_C4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_16s64f_AC4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_32u64f_C1R(
+    const Zel32u* pSrc1, int src1Step, const Zel32u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_32u64f_C3R(
+    const Zel32u* pSrc1, int src1Step, const Zel32u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_32u64f_C4R(
+    const Zel32u* pSrc1, int src1Step, const Zel32u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_32u64f_AC4R(
+    const Zel32u* pSrc1, int src1Step, const Zel32u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_32s64f_C1R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_32s64f_C3R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_32s64f_C4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_32s64f_AC4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_32f64f_C1R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_32f64f_C3R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_32f64f_C4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+ZELAPI ZelStatus zeliDotProd_32f64f_AC4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pDp);
+
+/* zeliDotProdCol */
+ZELAPI ZelStatus zeliDotProdCol_32f_L2(
+    const Zel32f* const* ppSrcList, const Zel32f* pCoeffs, int srcCount, Zel32f* pDst, int len);
+ZELAPI ZelStatus zeliDotProdCol_64f_L2(
+    const Zel64f* const* ppSrcList, const Zel64f* pCoeffs, int srcCount, Zel64f* pDst, int len);
+
+/* ==== Minimum and maximum ===============================================
+
+   zeliMin, zeliMax, zeliMinMax: the extreme samples of an image, one a channel
+   (3 for AC4R, the alpha is skipped). zeliMinIndx, zeliMaxIndx also give the
+   position of each channel's extreme: the top-most row that holds it, then the
+   left-most pixel of that row. zeliMinEvery, zeliMaxEvery keep, in place, the
+   smaller or larger sample of two images (AC4IR leaves the alpha alone).
+
+   Checks: zelStatusNullPointer, then zelStatusBadSize; zeliMinEvery and
+   zeliMaxEvery then zelStatusBadStep. The others accept any step.
+
+   Example:
+       Zel16s img[3 * 2] = {5, -7, 9, 0, 9, 1};
+       Zel16s lo = 0, hi = 0;
+       int x = -1, y = -1;
+       ZeliSize roi = {3, 2};
+       ZelStatus st = zeliMinMax_16s_C1R(img, 3 * 2, roi, &lo, &hi); // -7, 9
+       if (st == zelStatusOk) st = zeliMaxIndx_16s_C1R(img, 3 * 2, roi, &hi, &x, &y); // 9 at (2, 0) */
+
+/* zeliMin */
+ZELAPI ZelStatus zeliMin_8u_C1R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMin);
+ZELAPI ZelStatus zeliMin_8u_C3R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMin);
+ZELAPI ZelStatus zeliMin_8u_C4R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMin);
+ZELAPI ZelStatus zeliMin_8u_AC4R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMin);
+ZELAPI ZelStatus zeliMin_16u_C1R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMin);
+ZELAPI ZelStatus zeliMin_16u_C3R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMin);
+ZELAPI ZelStatus zeliMin_16u_C4R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMin);
+ZELAPI ZelStatus zeliMin_16u_AC4R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMin);
+ZELAPI ZelStatus zeliMin_16s_C1R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMin);
+ZELAPI ZelStatus zeliMin_16s_C3R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMin);
+ZELAPI ZelStatus zeliMin_16s_C4R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMin);
+ZELAPI ZelStatus zeliMin_16s_AC4R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMin);
+ZELAPI ZelStatus zeliMin_32f_C1R(const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMin);
+ZELAPI ZelStatus zeliMin_32f_C3R(const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMin);
+ZELAPI ZelStatus zeliMin_32f_C4R(const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMin);
+ZELAPI ZelStatus zeliMin_32f_AC4R(const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMin);
+
+/* zeliMax */
+ZELAPI ZelStatus zeliMax_8u_C1R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMax);
+ZELAPI ZelStatus zeliMax_8u_C3R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMax);
+ZELAPI ZelStatus zeliMax_8u_C4R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMax);
+ZELAPI ZelStatus zeliMax_8u_AC4R(const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMax);
+ZELAPI ZelStatus zeliMax_16u_C1R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMax);
+ZELAPI ZelStatus zeliMax_16u_C3R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMax);
+ZELAPI ZelStatus zeliMax_16u_C4R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMax);
+ZELAPI ZelStatus zeliMax_16u_AC4R(const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMax);
+ZELAPI ZelStatus zeliMax_16s_C1R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMax);
+ZELAPI ZelStatus zeliMax_16s_C3R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMax);
+ZELAPI ZelStatus zeliMax_16s_C4R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMax);
+ZELAPI ZelStatus zeliMax_16s_AC4R(const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMax);
+ZELAPI ZelStatus zeliMax_32f_C1R(const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMax);
+ZELAPI ZelStatus zeliMax_32f_C3R(const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMax);
+ZELAPI ZelStatus zeliMax_32f_C4R(const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMax);
+ZELAPI ZelStatus zeliMax_32f_AC4R(const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMax);
+
+/* zeliMinMax */
+ZELAPI ZelStatus zeliMinMax_8u_C1R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMin, Zel8u* pMax);
+ZELAPI ZelStatus zeliMinMax_8u_C3R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMin, Zel8u* pMax);
+ZELAPI ZelStatus zeliMinMax_8u_C4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMin, Zel8u* pMax);
+ZELAPI ZelStatus zeliMinMax_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMin, Zel8u* pMax);
+ZELAPI ZelStatus zeliMinMax_16u_C1R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMin, Zel16u* pMax);
+ZELAPI ZelStatus zeliMinMax_16u_C3R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMin, Zel16u* pMax);
+ZELAPI ZelStatus zeliMinMax_16u_C4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMin, Zel16u* pMax);
+ZELAPI ZelStatus zeliMinMax_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMin, Zel16u* pMax);
+ZELAPI ZelStatus zeliMinMax_16s_C1R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMin, Zel16s* pMax);
+ZELAPI ZelStatus zeliMinMax_16s_C3R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMin, Zel16s* pMax);
+ZELAPI ZelStatus zeliMinMax_16s_C4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMin, Zel16s* pMax);
+ZELAPI ZelStatus zeliMinMax_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMin, Zel16s* pMax);
+ZELAPI ZelStatus zeliMinMax_32f_C1R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMin, Zel32f* pMax);
+ZELAPI ZelStatus zeliMinMax_32f_C3R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMin, Zel32f* pMax);
+ZELAPI ZelStatus zeliMinMax_32f_C4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMin, Zel32f* pMax);
+ZELAPI ZelStatus zeliMinMax_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMin, Zel32f* pMax);
+
+/* zeliMinIndx */
+ZELAPI ZelStatus zeliMinIndx_8u_C1R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_8u_C3R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_8u_C4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_16u_C1R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_16u_C3R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_16u_C4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_16s_C1R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_16s_C3R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_16s_C4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_32f_C1R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_32f_C3R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_32f_C4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMin, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMinIndx_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMin, int* pIndexX, int* pIndexY);
+
+/* zeliMaxIndx */
+ZELAPI ZelStatus zeliMaxIndx_8u_C1R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_8u_C3R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_8u_C4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel8u* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_16u_C1R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_16u_C3R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_16u_C4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel16u* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_16s_C1R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_16s_C3R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_16s_C4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel16s* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_32f_C1R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_32f_C3R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_32f_C4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMax, int* pIndexX, int* pIndexY);
+ZELAPI ZelStatus zeliMaxIndx_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32f* pMax, int* pIndexX, int* pIndexY);
+
+/* zeliMinEvery */
+ZELAPI ZelStatus zeliMinEvery_8u_C1IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_8u_C3IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_8u_C4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_8u_AC4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_16u_C1IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_16u_C3IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_16u_C4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_16u_AC4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_16s_C1IR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_16s_C3IR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_16s_C4IR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_16s_AC4IR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_32f_C1IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_32f_C3IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_32f_C4IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMinEvery_32f_AC4IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliMaxEvery */
+ZELAPI ZelStatus zeliMaxEvery_8u_C1IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_8u_C3IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_8u_C4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_8u_AC4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_16u_C1IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_16u_C3IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_16u_C4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_16u_AC4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_16s_C1IR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_16s_C3IR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_16s_C4IR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_16s_AC4IR(
+    const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_32f_C1IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_32f_C3IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_32f_C4IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMaxEvery_32f_AC4IR(
+    const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* ==== Norms =============================================================
+
+   One Zel64f a channel (three for AC4, the alpha left out).
+   zeliNorm: max |a|, sum |a|, sqrt(sum a^2) of one image.
+   zeliNormDiff: the same of a - b. zeliNormRel: the norm of a - b divided by
+   that of b (for L2 one root of the quotient); a denominator below the
+   smallest normal Zel64f stores the numerator and warns (status 6).
+   32f L1 and L2 take a hint: 2 accumulates in Zel64f, anything else in Zel32f
+   lanes within each row.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, then zelStatusBadStep.
+
+   Example:
+       Zel8u a[4] = {1, 2, 3, 4}, b[4] = {1, 0, 3, 8};
+       Zel64f l2 = 0;
+       ZeliSize roi = {4, 1};
+       ZelStatus st = zeliNormDiff_L2_8u_C1R(a, 4, b, 4, roi, &l2); // sqrt(4 + 16) */
+
+/* zeliNorm */
+ZELAPI ZelStatus zeliNorm_Inf_8u_C1R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_8u_C3R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_8u_C4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_16u_C1R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_16u_C3R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_16u_C4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_16s_C1R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_16s_C3R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_16s_C4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_32f_C1R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_32f_C3R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_32f_C4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_Inf_32s_C1R(
+    const Zel32s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L1_8u_C1R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L1_8u_C3R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L1_8u_C4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L1_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L1_16u_C1R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L1_16u_C3R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L1_16u_C4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L1_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L1_16s_C1R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L1_16s_C3R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L1_16s_C4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L1_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L1_32f_C1R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNorm_L1_32f_C3R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNorm_L1_32f_C4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNorm_L1_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNorm_L2_8u_C1R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L2_8u_C3R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L2_8u_C4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L2_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L2_16u_C1R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L2_16u_C3R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L2_16u_C4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L2_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L2_16s_C1R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L2_16s_C3R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L2_16s_C4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L2_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue);
+ZELAPI ZelStatus zeliNorm_L2_32f_C1R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNorm_L2_32f_C3R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNorm_L2_32f_C4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNorm_L2_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue, ZelHintAlgorithm hint);
+
+/* zeliNormDiff */
+ZELAPI ZelStatus zeliNormDiff_Inf_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_16s_C1R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_16s_C3R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_16s_C4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_16s_AC4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_32f_C1R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_32f_C3R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_32f_C4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_Inf_32f_AC4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L1_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L1_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L1_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L1_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L1_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L1_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L1_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L1_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L1_16s_C1R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L1_16s_C3R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L1_16s_C4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L1_16s_AC4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L1_32f_C1R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormDiff_L1_32f_C3R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormDiff_L1_32f_C4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormDiff_L1_32f_AC4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormDiff_L2_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L2_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L2_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L2_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L2_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L2_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L2_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L2_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L2_16s_C1R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L2_16s_C3R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L2_16s_C4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L2_16s_AC4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormDiff_L2_32f_C1R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormDiff_L2_32f_C3R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormDiff_L2_32f_C4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormDiff_L2_32f_AC4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+
+/* zeliNormRel */
+ZELAPI ZelStatus zeliNormRel_Inf_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_16s_C1R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_16s_C3R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_16s_C4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_16s_AC4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_32f_C1R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_32f_C3R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_32f_C4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_Inf_32f_AC4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L1_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L1_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L1_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L1_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L1_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L1_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L1_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L1_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L1_16s_C1R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L1_16s_C3R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L1_16s_C4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L1_16s_AC4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L1_32f_C1R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormRel_L1_32f_C3R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormRel_L1_32f_C4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormRel_L1_32f_AC4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormRel_L2_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L2_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L2_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L2_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L2_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L2_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L2_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L2_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L2_16s_C1R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L2_16s_C3R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L2_16s_C4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L2_16s_AC4R(
+    const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue);
+ZELAPI ZelStatus zeliNormRel_L2_32f_C1R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormRel_L2_32f_C3R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormRel_L2_32f_C4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+ZELAPI ZelStatus zeliNormRel_L2_32f_AC4R(
+    const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, ZeliSize roiSize,
+    Zel64f* pValue, ZelHintAlgorithm hint);
+
+/* ==== Histograms and counting ===========================================
+
+   zeliHistogramRange: counts of level[k] <= v < level[k + 1] into nLevels - 1
+   bins a channel. zeliHistogramEven: makes nLevels levels evenly from
+   lowerLevel to upperLevel (the first bins take the remainder), stores them
+   and counts likewise. Multi-channel forms take arrays of one entry a channel
+   (three for C3 and AC4, four for C4). zeliCountInRange: the samples with
+   lower <= v <= upper, one count a channel.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep, then
+   zelStatusBadHistogramLevels for fewer than two levels (zeliHistogramRange
+   tests the levels right after the pointers). zeliCountInRange: -8, -14, -6,
+   then zelStatusBadRange when lowerBound is above upperBound. A lowerLevel
+   above upperLevel is valid in zeliHistogramEven: the levels descend, no
+   sample lies in a bin, and every count is 0.
+
+   Example:
+       Zel8u img[4 * 2] = {0, 10, 20, 30, 40, 50, 60, 255};
+       Zel32s hist[4], levels[5];
+       ZeliSize roi = {4, 2};
+       // levels 0, 64, 128, 192, 256: counts 7, 0, 0, 1
+       ZelStatus st = zeliHistogramEven_8u_C1R(img, 4, roi, hist, levels, 5, 0, 256); */
+
+/* zeliHistogramEven */
+ZELAPI ZelStatus zeliHistogramEven_8u_C1R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist, Zel32s* pLevels, int nLevels,
+    Zel32s lowerLevel, Zel32s upperLevel);
+ZELAPI ZelStatus zeliHistogramEven_8u_C3R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], Zel32s* pLevels[3],
+    int nLevels[3], Zel32s lowerLevel[3], Zel32s upperLevel[3]);
+ZELAPI ZelStatus zeliHistogramEven_8u_C4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[4], Zel32s* pLevels[4],
+    int nLevels[4], Zel32s lowerLevel[4], Zel32s upperLevel[4]);
+ZELAPI ZelStatus zeliHistogramEven_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], Zel32s* pLevels[3],
+    int nLevels[3], Zel32s lowerLevel[3], Zel32s upperLevel[3]);
+ZELAPI ZelStatus zeliHistogramEven_16u_C1R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist, Zel32s* pLevels, int nLevels,
+    Zel32s lowerLevel, Zel32s upperLevel);
+ZELAPI ZelStatus zeliHistogramEven_16u_C3R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], Zel32s* pLevels[3],
+    int nLevels[3], Zel32s lowerLevel[3], Zel32s upperLevel[3]);
+ZELAPI ZelStatus zeliHistogramEven_16u_C4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[4], Zel32s* pLevels[4],
+    int nLevels[4], Zel32s lowerLevel[4], Zel32s upperLevel[4]);
+ZELAPI ZelStatus zeliHistogramEven_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], Zel32s* pLevels[3],
+    int nLevels[3], Zel32s lowerLevel[3], Zel32s upperLevel[3]);
+ZELAPI ZelStatus zeliHistogramEven_16s_C1R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist, Zel32s* pLevels, int nLevels,
+    Zel32s lowerLevel, Zel32s upperLevel);
+ZELAPI ZelStatus zeliHistogramEven_16s_C3R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], Zel32s* pLevels[3],
+    int nLevels[3], Zel32s lowerLevel[3], Zel32s upperLevel[3]);
+ZELAPI ZelStatus zeliHistogramEven_16s_C4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[4], Zel32s* pLevels[4],
+    int nLevels[4], Zel32s lowerLevel[4], Zel32s upperLevel[4]);
+ZELAPI ZelStatus zeliHistogramEven_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], Zel32s* pLevels[3],
+    int nLevels[3], Zel32s lowerLevel[3], Zel32s upperLevel[3]);
+
+/* zeliHistogramRange */
+ZELAPI ZelStatus zeliHistogramRange_8u_C1R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist, const Zel32s* pLevels,
+    int nLevels);
+ZELAPI ZelStatus zeliHistogramRange_8u_C3R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], const Zel32s* pLevels[3],
+    int nLevels[3]);
+ZELAPI ZelStatus zeliHistogramRange_8u_C4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[4], const Zel32s* pLevels[4],
+    int nLevels[4]);
+ZELAPI ZelStatus zeliHistogramRange_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], const Zel32s* pLevels[3],
+    int nLevels[3]);
+ZELAPI ZelStatus zeliHistogramRange_16u_C1R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist, const Zel32s* pLevels,
+    int nLevels);
+ZELAPI ZelStatus zeliHistogramRange_16u_C3R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], const Zel32s* pLevels[3],
+    int nLevels[3]);
+ZELAPI ZelStatus zeliHistogramRange_16u_C4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[4], const Zel32s* pLevels[4],
+    int nLevels[4]);
+ZELAPI ZelStatus zeliHistogramRange_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], const Zel32s* pLevels[3],
+    int nLevels[3]);
+ZELAPI ZelStatus zeliHistogramRange_16s_C1R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist, const Zel32s* pLevels,
+    int nLevels);
+ZELAPI ZelStatus zeliHistogramRange_16s_C3R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], const Zel32s* pLevels[3],
+    int nLevels[3]);
+ZELAPI ZelStatus zeliHistogramRange_16s_C4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[4], const Zel32s* pLevels[4],
+    int nLevels[4]);
+ZELAPI ZelStatus zeliHistogramRange_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], const Zel32s* pLevels[3],
+    int nLevels[3]);
+ZELAPI ZelStatus zeliHistogramRange_32f_C1R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist, const Zel32f* pLevels,
+    int nLevels);
+ZELAPI ZelStatus zeliHistogramRange_32f_C3R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], const Zel32f* pLevels[3],
+    int nLevels[3]);
+ZELAPI ZelStatus zeliHistogramRange_32f_C4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[4], const Zel32f* pLevels[4],
+    int nLevels[4]);
+ZELAPI ZelStatus zeliHistogramRange_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist[3], const Zel32f* pLevels[3],
+    int nLevels[3]);
+
+/* zeliCountInRange */
+ZELAPI ZelStatus zeliCountInRange_8u_C1R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, int* counts, Zel8u lowerBound,
+    Zel8u upperBound);
+ZELAPI ZelStatus zeliCountInRange_8u_C3R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, int counts[3], Zel8u lowerBound[3],
+    Zel8u upperBound[3]);
+ZELAPI ZelStatus zeliCountInRange_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, ZeliSize roiSize, int counts[3], Zel8u lowerBound[3],
+    Zel8u upperBound[3]);
+ZELAPI ZelStatus zeliCountInRange_32f_C1R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, int* counts, Zel32f lowerBound,
+    Zel32f upperBound);
+ZELAPI ZelStatus zeliCountInRange_32f_C3R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, int counts[3], Zel32f lowerBound[3],
+    Zel32f upperBound[3]);
+ZELAPI ZelStatus zeliCountInRange_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, ZeliSize roiSize, int counts[3], Zel32f lowerBound[3],
+    Zel32f upperBound[3]);
+
+/* ==== Unary mathematics, sample by sample: zeliAbs (|x|, -32768 gives 32767),
+zeliSqr (x * x), zeliSqrt, zeliLn (natural logarithm; warnings for zero and
+negative samples), zeliExp ====
+
+   Sfs forms scale the result by two to the minus
+   scaleFactor: the square by the rule of the add family, the root and the
+   logarithm rounded to nearest, the exponential truncated; all saturate.
+   zeliSqrt warns of negative samples. Checks: null pointers, sizes below 1,
+   steps below 1. */
+
+/* zeliAbs */
+ZELAPI ZelStatus zeliAbs_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C1IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C3IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_AC4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliSqr */
+ZELAPI ZelStatus zeliSqr_8u_C1RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C1IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C3RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C3IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C4RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C4IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_AC4RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_AC4IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C1IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C3RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C3IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C4RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C4IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_AC4RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_AC4IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C1RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C1IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C3RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C3IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C4RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C4IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_AC4RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_AC4IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliSqrt */
+ZELAPI ZelStatus zeliSqrt_8u_C1RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_C1IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_C3RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_C3IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_AC4RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_AC4IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_C1IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_C3RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_C3IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_AC4RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_AC4IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_C1RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_C1IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_C3RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_C3IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_AC4RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_AC4IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliLn */
+ZELAPI ZelStatus zeliLn_8u_C1RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_8u_C1IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_8u_C3RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_8u_C3IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16u_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16u_C1IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16u_C3RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16u_C3IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16s_C1RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16s_C1IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16s_C3RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16s_C3IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLn_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLn_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLn_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliExp */
+ZELAPI ZelStatus zeliExp_8u_C1RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_8u_C1IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_8u_C3RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_8u_C3IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16u_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16u_C1IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16u_C3RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16u_C3IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16s_C1RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16s_C1IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16s_C3RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16s_C3IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliExp_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliExp_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliExp_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* ==== Bitwise operations and shifts =====================================
+
+   zeliAnd, zeliOr, zeliXor: dst = src1 op src2
+   (in place srcDst = src op srcDst); zeliAndC, zeliOrC, zeliXorC: dst = src op
+   value, one value a channel; zeliNot: dst = ~src. zeliLShiftC, zeliRShiftC:
+   shifts by a count a channel (value), left discarding high bits, right
+   logical on unsigned and arithmetic on signed samples; a count at or beyond
+   the sample's bits gives 0, or the sign fill on signed samples.
+   zeliComplement_32s_C1IR: two's complement to sign and magnitude. AC4 forms
+   leave alpha alone. Checks: null pointers, steps below 1, sizes below 1; the
+   two-image C3, C4 and AC4 forms check the width first. */
+
+/* zeliAnd */
+ZELAPI ZelStatus zeliAnd_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C1IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C3IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_AC4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C1IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C3IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_AC4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C1R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C1IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C3R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C3IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C4IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_AC4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_AC4IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliAndC */
+ZELAPI ZelStatus zeliAndC_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C1IR(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C3R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C3IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_AC4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C1IR(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C3R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C3IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_AC4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C1IR(Zel32s value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C3R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C3IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C4R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C4IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_AC4IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliOr */
+ZELAPI ZelStatus zeliOr_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C1IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C3IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_AC4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C1IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C3IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_AC4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C1R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C1IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C3R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C3IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C4IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_AC4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_AC4IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliOrC */
+ZELAPI ZelStatus zeliOrC_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C1IR(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C3R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C3IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_AC4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C1IR(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C3R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C3IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_AC4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C1IR(Zel32s value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C3R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C3IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C4R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C4IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_AC4IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliXor */
+ZELAPI ZelStatus zeliXor_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C1IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C3IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_AC4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C1IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C3IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_AC4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C1R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C1IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C3R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C3IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C4IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_AC4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_AC4IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliXorC */
+ZELAPI ZelStatus zeliXorC_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C1IR(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C3R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C3IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_AC4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C1IR(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C3R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C3IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_AC4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C1IR(Zel32s value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C3R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C3IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C4R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C4IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_AC4IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliNot */
+ZELAPI ZelStatus zeliNot_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_AC4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliLShiftC */
+ZELAPI ZelStatus zeliLShiftC_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel32u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C1IR(
+    Zel32u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C3R(
+    const Zel8u* pSrc, int srcStep, const Zel32u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C3IR(
+    const Zel32u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C4R(
+    const Zel8u* pSrc, int srcStep, const Zel32u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C4IR(
+    const Zel32u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, const Zel32u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_AC4IR(
+    const Zel32u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel32u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C1IR(
+    Zel32u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C3R(
+    const Zel16u* pSrc, int srcStep, const Zel32u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C3IR(
+    const Zel32u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C4R(
+    const Zel16u* pSrc, int srcStep, const Zel32u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C4IR(
+    const Zel32u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, const Zel32u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_AC4IR(
+    const Zel32u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32u value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C1IR(
+    Zel32u value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C3R(
+    const Zel32s* pSrc, int srcStep, const Zel32u* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C3IR(
+    const Zel32u* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C4R(
+    const Zel32s* pSrc, int srcStep, const Zel32u* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C4IR(
+    const Zel32u* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, const Zel32u* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_AC4IR(
+    const Zel32u* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliRShiftC */
+ZELAPI ZelStatus zeliRShiftC_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel32u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C1IR(
+    Zel32u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C3R(
+    const Zel8u* pSrc, int srcStep, const Zel32u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C3IR(
+    const Zel32u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C4R(
+    const Zel8u* pSrc, int srcStep, const Zel32u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C4IR(
+    const Zel32u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, const Zel32u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_AC4IR(
+    const Zel32u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C1R(
+    const Zel8s* pSrc, int srcStep, Zel32u value, Zel8s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C1IR(
+    Zel32u value, Zel8s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C3R(
+    const Zel8s* pSrc, int srcStep, const Zel32u* value, Zel8s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C3IR(
+    const Zel32u* value, Zel8s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C4R(
+    const Zel8s* pSrc, int srcStep, const Zel32u* value, Zel8s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C4IR(
+    const Zel32u* value, Zel8s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_AC4R(
+    const Zel8s* pSrc, int srcStep, const Zel32u* value, Zel8s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_AC4IR(
+    const Zel32u* value, Zel8s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel32u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C1IR(
+    Zel32u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C3R(
+    const Zel16u* pSrc, int srcStep, const Zel32u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C3IR(
+    const Zel32u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C4R(
+    const Zel16u* pSrc, int srcStep, const Zel32u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C4IR(
+    const Zel32u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, const Zel32u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_AC4IR(
+    const Zel32u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel32u value, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C1IR(
+    Zel32u value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C3R(
+    const Zel16s* pSrc, int srcStep, const Zel32u* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C3IR(
+    const Zel32u* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C4R(
+    const Zel16s* pSrc, int srcStep, const Zel32u* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C4IR(
+    const Zel32u* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, const Zel32u* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_AC4IR(
+    const Zel32u* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32u value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C1IR(
+    Zel32u value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C3R(
+    const Zel32s* pSrc, int srcStep, const Zel32u* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C3IR(
+    const Zel32u* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C4R(
+    const Zel32s* pSrc, int srcStep, const Zel32u* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C4IR(
+    const Zel32u* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, const Zel32u* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_AC4IR(
+    const Zel32u* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliComplement */
+ZELAPI ZelStatus zeliComplement_32s_C1IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
 
 #ifdef __cplusplus
 }

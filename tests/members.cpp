@@ -6,6 +6,7 @@
 #include <limits>
 #include <map>
 #include <random>
+#include <stdexcept>
 
 namespace zt {
 
@@ -138,7 +139,8 @@ bool starts(const std::string& s, const char* p) { return s.compare(0, std::strl
 struct Call::Buffer {
     GuardedBuffer mem;
     std::vector<std::uint8_t> first;
-    Buffer(std::size_t bytes) : mem(bytes < 1 ? 1 : bytes), first(mem.size()) {}
+    std::string elem;
+    Buffer(std::size_t bytes, const std::string& e) : mem(bytes < 1 ? 1 : bytes), first(mem.size()), elem(e) {}
 };
 
 Call::Call(const Member& m, ZeliSize size, std::uint32_t seed, int scaleFactor)
@@ -155,7 +157,7 @@ void Call::set_scalar(int i, const void* v, std::size_t n) { std::memcpy(slots_[
 // Fill codes: 0 random samples of the element type, 1 random bytes, 2 zeros,
 // 3 a mask (zero or not, half and half).
 int Call::add_buffer(std::size_t bytes, int elemSize, const std::string& elem, int fill) {
-    auto b = std::make_unique<Buffer>(bytes);
+    auto b = std::make_unique<Buffer>(bytes, elem);
     std::mt19937 rng(seed_ * 7919u + unsigned(buffers_.size()) * 104729u + 1u);
     std::uint8_t* p = b->mem.data();
     const std::size_t n = b->mem.size();
@@ -328,6 +330,7 @@ void Call::build() {
             } else {
                 const int b = add_buffer(span, im.esize, p.type, fill);
                 slots_[i].buffer = b;
+                slots_[i].step = im.step, slots_[i].channels = im.ch, slots_[i].size = im.size;
                 std::uint8_t* base = buffers_[b]->mem.data();
                 if (inPlaceBorder) base += std::size_t(top) * im.step + std::size_t(left) * im.ch * im.esize;
                 slots_[i].ptr = base;
@@ -416,14 +419,58 @@ void Call::build() {
     }
 }
 
+int Call::index(const char* param) const {
+    for (std::size_t i = 0; i < m_.params.size(); ++i)
+        if (m_.params[i].name == param) return int(i);
+    return -1;
+}
+
+int Call::slot(const char* param) const {
+    const int i = index(param);
+    if (i < 0) throw std::invalid_argument(m_.name + " has no parameter " + param);
+    return i;
+}
+
+const std::uint8_t* Call::first_of(const char* param) const {
+    const Slot& s = slots_[slot(param)];
+    const Buffer& b = *buffers_[s.buffer];
+    return b.first.data() + (static_cast<const std::uint8_t*>(s.ptr) - b.mem.data());
+}
+
+Call::View Call::view(const char* param) const {
+    const Slot& s = slots_[slot(param)];
+    View v;
+    v.first = first_of(param);
+    v.now = static_cast<const std::uint8_t*>(s.ptr);
+    v.step = s.step, v.channels = s.channels, v.size = s.size;
+    return v;
+}
+
 ZelStatus Call::run() {
     for (auto& b : buffers_) std::memcpy(b->mem.data(), b->first.data(), b->first.size());
     return m_.invoke(m_.fn, *this);
 }
 
-std::vector<std::uint8_t> Call::bytes() const {
+std::vector<std::uint8_t> Call::bytes(bool canonicalNan) const {
     std::vector<std::uint8_t> all;
-    for (const auto& b : buffers_) all.insert(all.end(), b->mem.data(), b->mem.data() + b->mem.size());
+    for (const auto& b : buffers_) {
+        const std::size_t at = all.size(), n = b->mem.size();
+        all.insert(all.end(), b->mem.data(), b->mem.data() + n);
+        if (!canonicalNan) continue;
+        if (b->elem == "Zel32f" || b->elem == "Zel32fc") {
+            for (std::size_t i = 0; i + 4 <= n; i += 4) {
+                float f;
+                std::memcpy(&f, &all[at + i], 4);
+                if (std::isnan(f)) std::memcpy(&all[at + i], "\x00\x00\xc0\xff", 4);
+            }
+        } else if (b->elem == "Zel64f") {
+            for (std::size_t i = 0; i + 8 <= n; i += 8) {
+                double d;
+                std::memcpy(&d, &all[at + i], 8);
+                if (std::isnan(d)) std::memcpy(&all[at + i], "\x00\x00\x00\x00\x00\x00\xf8\xff", 8);
+            }
+        }
+    }
     return all;
 }
 

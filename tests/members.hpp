@@ -53,8 +53,46 @@ public:
     const std::string& why() const { return why_; }
 
     ZelStatus run();
-    // Every byte of every buffer, in parameter order.
-    std::vector<std::uint8_t> bytes() const;
+    // Every byte of every buffer, in parameter order. With canonicalNan, every
+    // NaN of a float buffer reads as the processor's default NaN: which NaN an
+    // addition of two NaN passes on depends on its operand order, which the
+    // compiler may swap.
+    std::vector<std::uint8_t> bytes(bool canonicalNan = false) const;
+
+    // What a test needs to check a result: an image parameter's first
+    // contents and its contents now, its step, size and channels a pixel.
+    struct View {
+        const std::uint8_t* first = nullptr; // before run()
+        const std::uint8_t* now = nullptr;   // after run()
+        int step = 0, channels = 0;
+        ZeliSize size{};
+        template <class T> T at0(int x, int y, int c) const { return get<T>(first, x, y, c); }
+        template <class T> T at(int x, int y, int c) const { return get<T>(now, x, y, c); }
+        // Sample i of row y (counting samples, not pixels).
+        template <class T> T s0(int i, int y) const { return get<T>(first, i, y, 0, 1); }
+        template <class T> T s(int i, int y) const { return get<T>(now, i, y, 0, 1); }
+        template <class T> T get(const std::uint8_t* base, int x, int y, int c, int per = 0) const {
+            T v;
+            const std::size_t k = std::size_t(x) * std::size_t(per ? per : channels) + std::size_t(c);
+            std::memcpy(&v, base + std::size_t(y) * step + k * sizeof(T), sizeof v);
+            return v;
+        }
+    };
+    bool has(const char* param) const { return index(param) >= 0; }
+    View view(const char* param) const;
+    // Element k of a constant: of a pointer parameter's first contents (an
+    // array), or of a parameter passed by value (k > 0: the parts of a
+    // complex value).
+    template <class T> T element(const char* param, int k) const {
+        T v;
+        const int i = slot(param);
+        const std::uint8_t* src = m_.params[i].pointers || m_.params[i].extent ? first_of(param) : slots_[i].scalar;
+        std::memcpy(&v, src + std::size_t(k) * sizeof(T), sizeof v);
+        return v;
+    }
+    // A parameter passed by value, and a new value for it before run().
+    template <class T> T value(const char* param) const { return element<T>(param, 0); }
+    template <class T> void set_value(const char* param, T v) { set(slot(param), v); }
 
     template <class A>
     A arg(int i) {
@@ -69,10 +107,15 @@ public:
     }
 
 private:
+    int index(const char* param) const; // -1 when there is none
+    int slot(const char* param) const;  // throws when there is none
+    const std::uint8_t* first_of(const char* param) const;
     struct Slot {
         alignas(8) unsigned char scalar[16] = {};
         void* ptr = nullptr;
         int buffer = -1; // index into buffers_ (or the first plane)
+        int step = 0, channels = 0;
+        ZeliSize size{};
     };
     struct Buffer;
     void build();

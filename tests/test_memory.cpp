@@ -88,6 +88,44 @@ TEST(Memory, DocumentedSteps) {
     zeliFree(nullptr); // harmless
 }
 
+// Sizes past 4 GiB: a block is either big enough for every row or refused.
+TEST(Memory, LargeSizesAreServedWholeOrRefused) {
+    int step = 123;
+    Zel8u* p = zeliMalloc_8u_C1(70000, 70000, &step);
+    if (p) { // 4.9 GB where the machine lends it: the last byte of the last row is ours
+        EXPECT_EQ(step, 70016);
+        p[std::size_t(step) * 69999 + 69999] = 1;
+        zeliFree(p);
+    } else {
+        EXPECT_TRUE(step == 0 || step == 70016);
+    }
+    // A step that does not fit an int.
+    step = 123;
+    EXPECT_EQ(zeliMalloc_32fc_C4(0x7fffffff / 32 + 1, 1, &step), nullptr);
+    EXPECT_EQ(step, 0);
+    step = 123;
+    EXPECT_EQ(zeliMalloc_8u_C1(0x7fffffff, 1, &step), nullptr);
+    EXPECT_EQ(step, 0);
+    // The largest step that fits, times a height whose block passes the address space.
+    if (sizeof(std::size_t) == 4) {
+        EXPECT_EQ(zeliMalloc_8u_C1(0x10000, 0x10001, &step), nullptr);
+        EXPECT_EQ(step, 0);
+    }
+}
+
+// The header's version, the version record and the build's package version agree.
+TEST(Memory, VersionMacrosMatchTheRecord) {
+    const ZelLibraryVersion* v = zeliGetLibVersion();
+    EXPECT_EQ(v->major, ZELIP8_VERSION_MAJOR);
+    EXPECT_EQ(v->minor, ZELIP8_VERSION_MINOR);
+    EXPECT_EQ(v->majorBuild, ZELIP8_VERSION_PATCH);
+    const std::string dotted = std::to_string(ZELIP8_VERSION_MAJOR) + "." + std::to_string(ZELIP8_VERSION_MINOR) +
+                               "." + std::to_string(ZELIP8_VERSION_PATCH);
+    EXPECT_EQ(std::string(v->version).substr(0, dotted.size() + 1), dotted + " ");
+    EXPECT_EQ(dotted, ZEL_PACKAGE_VERSION);
+    EXPECT_EQ(ZELIP8_VERSION, ZELIP8_MAKE_VERSION(7, 1, 1));
+}
+
 TEST(Memory, VersionRecord) {
     const ZelLibraryVersion* v = zeliGetLibVersion();
     ASSERT_NE(v, nullptr);

@@ -4,11 +4,14 @@
 
 #include "zelip8.h"
 
+#include <cstddef>
+
 namespace zel {
 
 template <class T>
 inline T* zels_malloc(int count) {
-    if (count < 1) return nullptr;
+    // A count whose bytes do not fit a size_t (32-bit builds) is refused, not wrapped.
+    if (count < 1 || std::size_t(count) > std::size_t(-1) / sizeof(T)) return nullptr;
     return static_cast<T*>(zelMalloc(std::size_t(count) * sizeof(T)));
 }
 

@@ -1,7 +1,21 @@
-/* Saturating add and subtract of two images or an image and a constant.
+/* Saturating add and subtract.
+   Of two images, or of an image and a constant:
    zeliAdd: dst = src1 + src2; zeliSub: dst = src2 - src1; zeliAddC: dst = src + value;
    zeliSubC: dst = src - value. Sfs forms scale by two to the minus scaleFactor,
-   round ties to even and saturate; complex forms work part by part. */
+   round ties to even and saturate; complex forms work part by part.
+
+   Checks: zelStatusNullPointer, then zelStatusBadSize (C3 and C4 forms test
+   the width first); complex forms then zelStatusBadStep. Other forms accept
+   any step.
+
+   Example:
+       Zel8u a[4 * 2] = {10, 20, 250, 255, 0, 1, 2, 3};
+       Zel8u b[4 * 2] = {1, 2, 10, 255, 0, 1, 2, 3};
+       Zel8u half[4 * 2];
+       ZeliSize roi = {4, 2};
+       // half = (a + b) / 2, ties to even: 6, 11, 130, 255, 0, 1, 2, 3
+       ZelStatus st = zeliAdd_8u_C1RSfs(a, 4, b, 4, half, 4, roi, 1);
+*/
 /* Included with ZEL_ARITH_SHAPES_ONLY, this file only defines the entry shapes
    (the multiply and divide lists use them); with ZEL_ARITH_SHAPES_DONE it
    only removes them again. */

@@ -1,9 +1,22 @@
-/* Border copies: the source of srcRoiSize is placed at (leftBorderWidth,
+/* Border copies.
+   The source of srcRoiSize is placed at (leftBorderWidth,
    topBorderHeight) in a destination of dstRoiSize, and the frame around it
    is filled with a constant (ConstBorder), the nearest edge pixel
    (ReplicateBorder) or the image repeated cyclically (WrapBorder). In the I
    forms pSrcDst points at the first source pixel inside the destination and
-   only the frame is written. AC4 leaves every destination alpha alone. */
+   only the frame is written. AC4 leaves every destination alpha alone.
+
+   Checks: zelStatusNullPointer, zelStatusBadStep, then zelStatusBadSize (also
+   for a destination smaller than the source plus the borders, or a negative
+   border).
+
+   Example:
+       Zel8u src[2 * 2] = {1, 2, 3, 4};
+       Zel8u dst[4 * 4];
+       ZeliSize srcRoi = {2, 2}, dstRoi = {4, 4};
+       // a frame of zeros, one pixel wide, around the 2x2 image
+       ZelStatus st = zeliCopyConstBorder_8u_C1R(src, 2, srcRoi, dst, 4, dstRoi, 1, 1, 0);
+*/
 #define ZEL_BORDER_PARAMS(T, TAIL)                                                                             \
     (const Zel##T* pSrc, int srcStep, ZeliSize srcRoiSize, Zel##T* pDst, int dstStep, ZeliSize dstRoiSize,     \
      int topBorderHeight, int leftBorderWidth TAIL)

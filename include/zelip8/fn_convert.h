@@ -4,7 +4,19 @@
    mode (0 towards zero, 1 nearest, other: ties away from zero), Sfs forms
    scaled by 2^-scaleFactor, and bits to bytes.
    zeliScale keeps the position in the range: full range of one type onto the
-   full range of another, or [vMin, vMax] onto or from the 8u range. */
+   full range of another, or [vMin, vMax] onto or from the 8u range.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep (not in the
+   Rs forms); zeliScale tests zelStatusBadScaleRange first of all. The round
+   mode is not checked: any value other than 0 and 1 rounds ties away from zero.
+
+   Example:
+       Zel32f f[4] = {0.5f, 1.5f, -3.0f, 300.0f};
+       Zel8u u[4];
+       ZeliSize roi = {4, 1};
+       // to nearest, ties to even, saturated: 0, 2, 0, 255
+       ZelStatus st = zeliConvert_32f8u_C1R(f, 16, u, 4, roi, zelRoundNear);
+*/
 #define ZEL_CVT(S, D, L)                                                                                       \
     ZEL_FN(ZelStatus, zeliConvert_##S##D##_##L##R,                                                             \
            (const Zel##S* pSrc, int srcStep, Zel##D* pDst, int dstStep, ZeliSize roiSize),                    \

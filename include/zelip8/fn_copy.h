@@ -8,8 +8,19 @@
    zeliSet writes a constant in the same forms. zeliDup spreads one channel
    over three or four. zeliCopyManaged copies with a chosen store and load
    policy: flags bit 0 non-temporal stores, bit 1 streaming loads.
-   Checks: null pointers (every plane and the mask too), then sizes below 1.
-   Steps are not checked: 0 and negative steps walk the rows by the step. */
+
+   Checks: zelStatusNullPointer (every plane and the mask too), then
+   zelStatusBadSize. Steps are not checked: 0 and negative steps walk the
+   rows by the step.
+
+   Example:
+       Zel8u rgb[4 * 3 * 2], r[4 * 2], g[4 * 2], b[4 * 2];
+       Zel8u* planes[3] = {r, g, b};
+       const Zel8u grey[3] = {128, 128, 128};
+       ZeliSize roi = {4, 2};
+       ZelStatus st = zeliSet_8u_C3R(grey, rgb, 4 * 3, roi);
+       if (st == zelStatusOk) st = zeliCopy_8u_C3P3R(rgb, 4 * 3, planes, 4, roi);
+*/
 #define ZEL_COPY_SD(T, F, IMPL)                                                                           \
     ZEL_FN(ZelStatus, zeliCopy_##T##_##F, (const Zel##T* pSrc, int srcStep, Zel##T* pDst, int dstStep, ZeliSize roiSize), \
            (pSrc, srcStep, pDst, dstStep, roiSize), IMPL)

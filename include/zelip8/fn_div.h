@@ -2,7 +2,20 @@
    same with round mode 0 towards zero, 1 ties to even, 2 ties away; zeliDivC:
    dst = src / value. A zero divisor gives a fixed result and the warning
    zelStatusDivisionByZeroWarning; a zero constant is refused. The shapes of the
-   entries are those of fn_addsub.h. */
+   entries are those of fn_addsub.h.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep, then
+   zelStatusDivisionByZero (zeliDivC) or zelStatusBadRoundMode (zeliDiv_Round:
+   a round mode other than 0, 1, 2). zelStatusDivisionByZeroWarning is a
+   warning: every result is written.
+
+   Example:
+       Zel32f num[4] = {1, 2, 3, 4}, den[4] = {2, 4, 0, 8}, q[4];
+       ZeliSize roi = {4, 1};
+       // q = num / den (the divisor comes first): 0.5, 0.5, +inf, 0.5
+       ZelStatus st = zeliDiv_32f_C1R(den, 16, num, 16, q, 16, roi);
+       if (st == zelStatusDivisionByZeroWarning) st = zelStatusOk; // the +inf
+*/
 #define ZEL_ARITH_SHAPES_ONLY
 #include "zelip8/fn_addsub.h"
 #undef ZEL_ARITH_SHAPES_ONLY

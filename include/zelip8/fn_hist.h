@@ -4,7 +4,22 @@
    lowerLevel to upperLevel (the first bins take the remainder), stores them
    and counts likewise. Multi-channel forms take arrays of one entry a channel
    (three for C3 and AC4, four for C4). zeliCountInRange: the samples with
-   lower <= v <= upper, one count a channel. */
+   lower <= v <= upper, one count a channel.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep, then
+   zelStatusBadHistogramLevels for fewer than two levels (zeliHistogramRange
+   tests the levels right after the pointers). zeliCountInRange: -8, -14, -6,
+   then zelStatusBadRange when lowerBound is above upperBound. A lowerLevel
+   above upperLevel is valid in zeliHistogramEven: the levels descend, no
+   sample lies in a bin, and every count is 0.
+
+   Example:
+       Zel8u img[4 * 2] = {0, 10, 20, 30, 40, 50, 60, 255};
+       Zel32s hist[4], levels[5];
+       ZeliSize roi = {4, 2};
+       // levels 0, 64, 128, 192, 256: counts 7, 0, 0, 1
+       ZelStatus st = zeliHistogramEven_8u_C1R(img, 4, roi, hist, levels, 5, 0, 256);
+*/
 #define ZEL_HIST_RANGE_C1(T, LV)                                                              \
     ZEL_FN(ZelStatus, zeliHistogramRange_##T##_C1R,                                           \
            (const Zel##T* pSrc, int srcStep, ZeliSize roiSize, Zel32s* pHist, const Zel##LV* pLevels, int nLevels), \

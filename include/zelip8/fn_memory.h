@@ -1,7 +1,19 @@
 /* Image memory and version.
    zeliMalloc_<type>_<layout>(width, height, &step): a block whose rows start
    64 bytes apart at the least; the row step goes to *step (0 for a bad size).
-   zeliFree releases it. zeliGetLibVersion describes this build. */
+   zeliFree releases it. zeliGetLibVersion describes this build.
+
+   Checks: none of these returns a status. zeliMalloc_* return NULL and a step
+   of 0 for a width or height below 1, and for an image whose row step does not
+   fit an int or whose size does not fit the address space; NULL with the step
+   stored when the memory is not there; NULL for a NULL step pointer.
+
+   Example:
+       int step = 0;
+       Zel8u* img = zeliMalloc_8u_C3(640, 480, &step); // step 1920
+       ZelStatus st = img ? zelStatusOk : zelStatusMemAlloc;
+       zeliFree(img);
+*/
 #define ZEL_MALLOC(T, L)                                                              \
     ZEL_FN(Zel##T*, zeliMalloc_##T##_##L, (int widthPixels, int heightPixels, int* pStepBytes), \
            (widthPixels, heightPixels, pStepBytes), (zel::image_malloc<Zel##T, zel::L>))

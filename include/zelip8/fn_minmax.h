@@ -3,7 +3,19 @@
    (3 for AC4R, the alpha is skipped). zeliMinIndx, zeliMaxIndx also give the
    position of each channel's extreme: the top-most row that holds it, then the
    left-most pixel of that row. zeliMinEvery, zeliMaxEvery keep, in place, the
-   smaller or larger sample of two images (AC4IR leaves the alpha alone). */
+   smaller or larger sample of two images (AC4IR leaves the alpha alone).
+
+   Checks: zelStatusNullPointer, then zelStatusBadSize; zeliMinEvery and
+   zeliMaxEvery then zelStatusBadStep. The others accept any step.
+
+   Example:
+       Zel16s img[3 * 2] = {5, -7, 9, 0, 9, 1};
+       Zel16s lo = 0, hi = 0;
+       int x = -1, y = -1;
+       ZeliSize roi = {3, 2};
+       ZelStatus st = zeliMinMax_16s_C1R(img, 3 * 2, roi, &lo, &hi); // -7, 9
+       if (st == zelStatusOk) st = zeliMaxIndx_16s_C1R(img, 3 * 2, roi, &hi, &x, &y); // 9 at (2, 0)
+*/
 #define ZEL_MINMAX(T, L)                                                                                   \
     ZEL_FN(ZelStatus, zeliMin_##T##_##L##R, (const Zel##T* pSrc, int srcStep, ZeliSize roiSize, Zel##T* pMin), \
            (pSrc, srcStep, roiSize, pMin), (zel::extreme<Zel##T, zel::L, zel::OpMin>))                     \

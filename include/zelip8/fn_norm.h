@@ -1,10 +1,20 @@
-/* Norms, one Zel64f a channel (three for AC4, the alpha left out).
+/* Norms.
+   One Zel64f a channel (three for AC4, the alpha left out).
    zeliNorm: max |a|, sum |a|, sqrt(sum a^2) of one image.
    zeliNormDiff: the same of a - b. zeliNormRel: the norm of a - b divided by
    that of b (for L2 one root of the quotient); a denominator below the
    smallest normal Zel64f stores the numerator and warns (status 6).
    32f L1 and L2 take a hint: 2 accumulates in Zel64f, anything else in Zel32f
-   lanes within each row. */
+   lanes within each row.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, then zelStatusBadStep.
+
+   Example:
+       Zel8u a[4] = {1, 2, 3, 4}, b[4] = {1, 0, 3, 8};
+       Zel64f l2 = 0;
+       ZeliSize roi = {4, 1};
+       ZelStatus st = zeliNormDiff_L2_8u_C1R(a, 4, b, 4, roi, &l2); // sqrt(4 + 16)
+*/
 #define ZEL_NORM_ONE(F, K, T, L, fn)                                                          \
     ZEL_FN(ZelStatus, zeli##F##_##K##_##T##_##L##R,                                           \
            (const Zel##T* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pValue),               \

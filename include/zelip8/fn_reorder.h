@@ -2,7 +2,21 @@
    zeliSwapChannels: dst channel c = src channel dstOrder[c] (C3C4R: an entry 3
    writes val, a larger single entry keeps the destination channel).
    zeliTranspose: dst(y, x) = src(x, y); roiSize is the source size.
-   zeliMirror: flip about the horizontal axis (0), the vertical axis (1) or both (2). */
+   zeliMirror: flip about the horizontal axis (0), the vertical axis (1) or both (2).
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, then zelStatusBadStep and
+   zelStatusBadChannelOrder (zeliSwapChannels) or zelStatusBadAxis (zeliMirror:
+   -8, -6, -21, and an axis that flips a single row or column is a bad size).
+   zeliTranspose checks no step; its in-place forms need a square region.
+
+   Example:
+       Zel8u rgb[2 * 3] = {1, 2, 3, 4, 5, 6}, bgr[2 * 3];
+       const int order[3] = {2, 1, 0};
+       ZeliSize roi = {2, 1};
+       // bgr = 3, 2, 1, 6, 5, 4, then mirrored left to right: 6, 5, 4, 3, 2, 1
+       ZelStatus st = zeliSwapChannels_8u_C3R(rgb, 6, bgr, 6, roi, order);
+       if (st == zelStatusOk) st = zeliMirror_8u_C3IR(bgr, 6, roi, zelAxisVertical);
+*/
 #define ZEL_SWAP(T, F, N, IMPL)                                                                           \
     ZEL_FN(ZelStatus, zeliSwapChannels_##T##_##F,                                                       \
            (const Zel##T* pSrc, int srcStep, Zel##T* pDst, int dstStep, ZeliSize roiSize, const int dstOrder[N]), \

@@ -3,7 +3,18 @@
    alpha is skipped); integer samples are summed exactly, Zel32f in Zel32f lanes
    per row unless the hint is zelAlgHintAccurate (2), which sums in Zel64f.
    zeliDotProd reduces a pair of images the same way; zeliDotProdCol forms
-   pDst[j] = sum over k of ppSrcList[k][j] * pCoeffs[k]. */
+   pDst[j] = sum over k of ppSrcList[k][j] * pCoeffs[k].
+
+   Checks: zelStatusNullPointer, then zelStatusBadSize; steps are not checked
+   (zeliDotProd refuses a step of 0 as a bad size).
+
+   Example:
+       Zel8u img[3 * 2] = {1, 2, 3, 4, 5, 6};
+       Zel64f sum = 0, mean = 0;
+       ZeliSize roi = {3, 2};
+       ZelStatus st = zeliSum_8u_C1R(img, 3, roi, &sum); // 21
+       if (st == zelStatusOk) st = zeliMean_8u_C1R(img, 3, roi, &mean); // 3.5
+*/
 #define ZEL_SUM(T, L)                                                                                     \
     ZEL_FN(ZelStatus, zeliSum_##T##_##L##R, (const Zel##T* pSrc, int srcStep, ZeliSize roiSize, Zel64f* pSum), \
            (pSrc, srcStep, roiSize, pSum), (zel::sum<Zel##T, zel::L>))                                    \

@@ -133,7 +133,19 @@ enum { zelAlphaOver = 0, zelAlphaIn, zelAlphaOut, zelAlphaAtop, zelAlphaXor, zel
 typedef int ZelFftFlag;
 enum { zelFftDivFwdByN = 1, zelFftDivInvByN = 2, zelFftDivBySqrtN = 4, zelFftNoDivByAny = 8 };
 
-/* ---- Version record -------------------------------------------------- */
+/* ---- Version ----------------------------------------------------------
+   The version of this header, also that of the build's version record
+   (zeliGetLibVersion: major, minor, majorBuild) and of the CMake and
+   pkg-config packages, which read it from here. */
+#define ZELIP8_VERSION_MAJOR 7
+#define ZELIP8_VERSION_MINOR 1
+#define ZELIP8_VERSION_PATCH 1
+/* One number for comparisons: ZELIP8_VERSION >= ZELIP8_MAKE_VERSION(7, 1, 0). */
+#define ZELIP8_MAKE_VERSION(major, minor, patch) ((major) * 10000 + (minor) * 100 + (patch))
+#define ZELIP8_VERSION \
+    ZELIP8_MAKE_VERSION(ZELIP8_VERSION_MAJOR, ZELIP8_VERSION_MINOR, ZELIP8_VERSION_PATCH)
+
+/* Record of the running build. */
 typedef struct {
     int major;
     int minor;

@@ -94,19 +94,11 @@ ZelStatus sqr_image(const T* s, int ss, T* d, int ds, ZeliSize roi, int n) {
     };
     if constexpr (is_f<T>) {
         go(std::integral_constant<Sc, Sc::Plain>{});
+    } else if (const Sc c = scale_case<Op::Mul, T>(n); c == Sc::Zero) {
+        const T zero[4] = {};
+        fill_rows<T, SP, AP>(d, ds, roi.width, roi.height, zero);
     } else {
-        switch (scale_case<Op::Mul, T>(n)) {
-        case Sc::Zero: {
-            const T zero[4] = {};
-            fill_rows<T, SP, AP>(d, ds, roi.width, roi.height, zero);
-            break;
-        }
-        case Sc::Plain: go(std::integral_constant<Sc, Sc::Plain>{}); break;
-        case Sc::One: go(std::integral_constant<Sc, Sc::One>{}); break;
-        case Sc::Pos: go(std::integral_constant<Sc, Sc::Pos>{}); break;
-        case Sc::Neg: go(std::integral_constant<Sc, Sc::Neg>{}); break;
-        default: go(std::integral_constant<Sc, Sc::Bound>{}); break;
-        }
+        with_case(c, go);
     }
     return zelStatusOk;
 }

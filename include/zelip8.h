@@ -4093,15 +4093,32 @@ ZELAPI ZelStatus zeliCountInRange_32f_AC4R(
     const Zel32f* pSrc, int srcStep, ZeliSize roiSize, int counts[3], Zel32f lowerBound[3],
     Zel32f upperBound[3]);
 
-/* ==== Unary mathematics, sample by sample: zeliAbs (|x|, -32768 gives 32767),
-zeliSqr (x * x), zeliSqrt, zeliLn (natural logarithm; warnings for zero and
-negative samples), zeliExp ====
+/* ==== Unary mathematics, sample by sample ===============================
 
-   Sfs forms scale the result by two to the minus
-   scaleFactor: the square by the rule of the add family, the root and the
-   logarithm rounded to nearest, the exponential truncated; all saturate.
-   zeliSqrt warns of negative samples. Checks: null pointers, sizes below 1,
-   steps below 1. */
+   zeliAbs: |x|, with -32768 giving
+   32767 and a float losing its sign bit; zeliSqr: x * x; zeliSqrt: the square
+   root; zeliLn: the natural logarithm; zeliExp: e to the x. Sfs forms scale
+   the result by two to the minus scaleFactor: the square by the ties-to-even
+   rule of zeliAdd, the root and the logarithm to nearest, the exponential
+   truncated; all saturate. A sample below zero gives NaN (32f) or 0 in
+   zeliSqrt, NaN (32f) or the type's lowest value in zeliLn; zero gives minus
+   infinity (32f) or the type's lowest value in zeliLn. zeliAbs and
+   zeliSqrt_32f walk an out-of-place source by its step rounded down to whole
+   samples.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep. The
+   warnings zelStatusSqrtNegativeWarning (a negative sample in zeliSqrt),
+   zelStatusLnNegativeWarning and zelStatusLnZeroWarning (zeliLn) come with
+   every result written; the first row that raises one decides which.
+
+   Example:
+       Zel16s v[4] = {-32768, -5, 0, 7};
+       Zel8u x[4] = {0, 1, 100, 255}, r[4];
+       ZeliSize roi = {4, 1};
+       // |v| in place: 32767, 5, 0, 7
+       ZelStatus st = zeliAbs_16s_C1IR(v, 8, roi);
+       // sqrt(x) * 2: 0, 2, 20, 32 (31.94 rounded)
+       if (st == zelStatusOk) st = zeliSqrt_8u_C1RSfs(x, 4, r, 4, roi, -1); */
 
 /* zeliAbs */
 ZELAPI ZelStatus zeliAbs_16s_C1R(
@@ -4310,10 +4327,24 @@ ZELAPI ZelStatus zeliExp_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiS
    value, one value a channel; zeliNot: dst = ~src. zeliLShiftC, zeliRShiftC:
    shifts by a count a channel (value), left discarding high bits, right
    logical on unsigned and arithmetic on signed samples; a count at or beyond
-   the sample's bits gives 0, or the sign fill on signed samples.
+   the sample's bits gives 0, or the sign fill (0 or -1) on signed samples.
    zeliComplement_32s_C1IR: two's complement to sign and magnitude. AC4 forms
-   leave alpha alone. Checks: null pointers, steps below 1, sizes below 1; the
-   two-image C3, C4 and AC4 forms check the width first. */
+   leave alpha alone.
+
+   Checks: zelStatusNullPointer, zelStatusBadStep, zelStatusBadSize; the
+   two-image C3, C4 and AC4 forms test the width (zelStatusBadSize) first. A
+   count is never an error.
+
+   Example:
+       Zel8u a[4] = {0xf0, 0x0f, 0xff, 200}, b[4] = {0x3c, 0x3c, 0x01, 255}, d[4];
+       Zel8s s[2] = {-5, 5}, t[2];
+       ZeliSize roi = {4, 1}, two = {2, 1};
+       // a AND b: 0x30, 0x0c, 0x01, 200
+       ZelStatus st = zeliAnd_8u_C1R(a, 4, b, 4, d, 4, roi);
+       // a << 1, high bits dropped: 0xe0, 0x1e, 0xfe, 144
+       if (st == zelStatusOk) st = zeliLShiftC_8u_C1R(a, 4, 1, d, 4, roi);
+       // beyond the bits a signed sample keeps its sign: -1, 0
+       if (st == zelStatusOk) st = zeliRShiftC_8s_C1R(s, 2, 40, t, 2, two); */
 
 /* zeliAnd */
 ZELAPI ZelStatus zeliAnd_8u_C1R(

@@ -3,10 +3,25 @@
    value, one value a channel; zeliNot: dst = ~src. zeliLShiftC, zeliRShiftC:
    shifts by a count a channel (value), left discarding high bits, right
    logical on unsigned and arithmetic on signed samples; a count at or beyond
-   the sample's bits gives 0, or the sign fill on signed samples.
+   the sample's bits gives 0, or the sign fill (0 or -1) on signed samples.
    zeliComplement_32s_C1IR: two's complement to sign and magnitude. AC4 forms
-   leave alpha alone. Checks: null pointers, steps below 1, sizes below 1; the
-   two-image C3, C4 and AC4 forms check the width first. */
+   leave alpha alone.
+
+   Checks: zelStatusNullPointer, zelStatusBadStep, zelStatusBadSize; the
+   two-image C3, C4 and AC4 forms test the width (zelStatusBadSize) first. A
+   count is never an error.
+
+   Example:
+       Zel8u a[4] = {0xf0, 0x0f, 0xff, 200}, b[4] = {0x3c, 0x3c, 0x01, 255}, d[4];
+       Zel8s s[2] = {-5, 5}, t[2];
+       ZeliSize roi = {4, 1}, two = {2, 1};
+       // a AND b: 0x30, 0x0c, 0x01, 200
+       ZelStatus st = zeliAnd_8u_C1R(a, 4, b, 4, d, 4, roi);
+       // a << 1, high bits dropped: 0xe0, 0x1e, 0xfe, 144
+       if (st == zelStatusOk) st = zeliLShiftC_8u_C1R(a, 4, 1, d, 4, roi);
+       // beyond the bits a signed sample keeps its sign: -1, 0
+       if (st == zelStatusOk) st = zeliRShiftC_8s_C1R(s, 2, 40, t, 2, two);
+*/
 #define ZEL_LOGIC(F, T, L)                                                                                     \
     ZEL_FN(ZelStatus, zeli##F##_##T##_##L##R,                                                                  \
            (const Zel##T* pSrc1, int src1Step, const Zel##T* pSrc2, int src2Step, Zel##T* pDst, int dstStep,   \

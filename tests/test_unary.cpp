@@ -9,7 +9,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <cstdio>
 #include <cstring>
 #include <limits>
 #include <random>
@@ -17,7 +20,7 @@
 
 namespace {
 
-using i128 = __int128;
+using i64 = std::int64_t;
 
 // ---- The members, read from the declaration list ----------------------------------------
 struct Form {
@@ -53,28 +56,31 @@ ZelStatus call(const Form& f, const T* s, int ss, T* d, int ds, ZeliSize r, int 
 
 // ---- References ------------------------------------------------------------------------
 template <class T>
-T sat(i128 v) {
-    const i128 lo = std::numeric_limits<T>::min(), hi = std::numeric_limits<T>::max();
+T sat(i64 v) {
+    const i64 lo = std::numeric_limits<T>::min(), hi = std::numeric_limits<T>::max();
     return T(v < lo ? lo : v > hi ? hi : v);
 }
 
-// s 2^-n to nearest, ties to even.
-i128 scale_even(i128 s, int n) {
-    if (n <= 0) return s << -n;
-    i128 q = s >> n, r = s - (q << n), h = i128(1) << (n - 1);
+// s 2^-n to nearest, ties to even (s >= 0; a product beyond 2^62 stands as 2^62).
+i64 scale_even(i64 s, int n) {
+    if (n <= 0) return s == 0 ? 0 : n < -60 || (s >> (62 + n)) != 0 ? i64(1) << 62 : s << -n;
+    if (n > 62) return 0;
+    i64 q = s >> n, r = s - (q << n), h = i64(1) << (n - 1);
     return q + (r > h || (r == h && (q & 1)));
 }
 
 // sqrt(x) 2^-n to nearest, ties to even, from integer comparisons only:
-// with X = x 4^-n, k rounds up when 4X > (2k + 1)^2.
-i128 root_even(i128 x, int n) {
-    i128 num = 4 * x, den = 1; // 4X = num / den
+// with X = x 4^-n, k rounds up when 4X > (2k + 1)^2 (|n| <= 20 keeps the
+// products in 64 bits; beyond, every result saturates or is 0 as at +-20).
+i64 root_even(i64 x, int n) {
+    n = std::max(-20, std::min(20, n));
+    i64 num = 4 * x, den = 1; // 4X = num / den
     if (n < 0) num <<= -2 * n;
     else den <<= 2 * n;
-    i128 k = i128(std::sqrt(double(x) * std::ldexp(1.0, -2 * n)));
+    i64 k = i64(std::sqrt(double(x) * std::ldexp(1.0, -2 * n)));
     while (k > 0 && 4 * k * k * den > num) --k;
     while (4 * (k + 1) * (k + 1) * den <= num) ++k;
-    const i128 odd = (2 * k + 1) * (2 * k + 1) * den;
+    const i64 odd = (2 * k + 1) * (2 * k + 1) * den;
     return k + (num > odd || (num == odd && (k & 1)));
 }
 
@@ -94,9 +100,9 @@ double reference(const std::string& fn, T x, int n, int& warn, double& ulps) {
         return std::exp(v);
     } else {
         if (fn == "Abs") return v == -32768 ? 32767 : std::fabs(v);
-        if (fn == "Sqr") return double(sat<T>(scale_even(i128(x) * i128(x), n)));
-        if (fn == "Sqrt") return v < 0 ? 0 : double(sat<T>(root_even(i128(x), std::max(-40, std::min(40, n)))));
-        if (fn == "Ln") return v <= 0 ? std::numeric_limits<T>::min() : double(sat<T>(i128(std::floor(std::ldexp(std::log(v), -n) + 0.5))));
+        if (fn == "Sqr") return double(sat<T>(scale_even(i64(x) * i64(x), n)));
+        if (fn == "Sqrt") return v < 0 ? 0 : double(sat<T>(root_even(i64(x), n)));
+        if (fn == "Ln") return v <= 0 ? std::numeric_limits<T>::min() : double(sat<T>(i64(std::floor(std::ldexp(std::log(v), -n) + 0.5))));
         const double e = std::ldexp(std::exp(v), -n);
         return e >= double(std::numeric_limits<T>::max()) ? std::numeric_limits<T>::max() : std::trunc(e);
     }

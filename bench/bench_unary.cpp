@@ -61,14 +61,14 @@ void Bound_memcpy(benchmark::State& st) {
     });
 }
 
-ZB_THREADS(And_8u_C1R);
-ZB_THREADS(Abs_16s_C1R);
-ZB_THREADS(Sqrt_32f_C1R);
-ZB_THREADS(Ln_32f_C1R);
-ZB_THREADS(Exp_32f_C1R);
-ZB_THREADS(RShiftC_16u_C1R);
-ZB_THREADS(Bound_memcpy<Zel8u>);
-ZB_THREADS(Bound_memcpy<Zel16u>);
+ZB_ZELI("And_8u_C1R", And_8u_C1R);
+ZB_ZELI("Abs_16s_C1R", Abs_16s_C1R);
+ZB_ZELI("Sqrt_32f_C1R", Sqrt_32f_C1R);
+ZB_ZELI("Ln_32f_C1R", Ln_32f_C1R);
+ZB_ZELI("Exp_32f_C1R", Exp_32f_C1R);
+ZB_ZELI("RShiftC_16u_C1R", RShiftC_16u_C1R);
+ZB_CASE("libc", "And_8u_C1R", Bound_memcpy<Zel8u>);
+ZB_CASE("libc", "RShiftC_16u_C1R", Bound_memcpy<Zel16u>);
 
 #ifdef ZEL_HAVE_OPENCV
 template <int Type, class F>
@@ -93,11 +93,11 @@ void CV_log_32f(benchmark::State& st) {
 void CV_exp_32f(benchmark::State& st) {
     cv_run<CV_32FC1>(st, 8, -20, 20, [](auto& a, auto&, auto& d) { cv::exp(a, d); });
 }
-ZB_THREADS(CV_bitwise_and_8u);
-ZB_THREADS(CV_abs_16s);
-ZB_THREADS(CV_sqrt_32f);
-ZB_THREADS(CV_log_32f);
-ZB_THREADS(CV_exp_32f);
+ZB_OPENCV("And_8u_C1R", CV_bitwise_and_8u);
+ZB_OPENCV("Abs_16s_C1R", CV_abs_16s);
+ZB_OPENCV("Sqrt_32f_C1R", CV_sqrt_32f);
+ZB_OPENCV("Ln_32f_C1R", CV_log_32f);
+ZB_OPENCV("Exp_32f_C1R", CV_exp_32f);
 #endif
 
 } // namespace

@@ -214,24 +214,29 @@ TEST(Unary, AbsAndSqr) { for_forms(forms({"Abs", "Sqr"}), 48, ZT_EACH_TYPE(check
 TEST(Unary, Sqrt) { for_forms(forms({"Sqrt"}), 25, ZT_EACH_TYPE(check_member)); }
 TEST(Unary, LnAndExp) { for_forms(forms({"Ln", "Exp"}), 32, ZT_EACH_TYPE(check_member)); }
 
-// Every sample value of the integer types, at every scale factor and level.
+// Every sample value of the integer types at the scale factors -17 to 18 and
+// 31 to 33 (the last that changes a 16-bit square), at every level.
 template <class T>
 void every_value(const Form& f) {
     if (f.ip || f.ch != 1 || !f.sfs) return;
     const int count = std::is_floating_point<T>::value ? 0 : 1 << (8 * (sizeof(T) & 3));
     zt::Image<T> s(256, count / 256, 1), d(256, count / 256, 1);
     for (int i = 0; i < count; ++i) s.ptr()[i] = T(i);
-    zt::for_each_level([&](int) {
-        for (int n : {-16, -9, -8, -1, 0, 1, 2, 9, 16, 31}) {
-            call<T>(f, s.ptr(), s.step(), d.ptr(), d.step(), s.size(), n);
-            for (int i = 0; i < count; ++i) {
-                int warn;
-                double ulps;
-                ASSERT_EQ(double(d.ptr()[i]), reference<T>(f.fn, s.ptr()[i], n, warn, ulps))
-                    << f.m->name << " level " << zelGetIsaLevel() << " n=" << n << " x=" << double(s.ptr()[i]);
-            }
+    std::vector<double> want(count);
+    for (int n = -17; n <= 33; n += n == 18 ? 13 : 1) {
+        for (int i = 0; i < count; ++i) {
+            int warn;
+            double ulps;
+            want[i] = reference<T>(f.fn, s.ptr()[i], n, warn, ulps);
         }
-    });
+        zt::for_each_level([&](int) {
+            call<T>(f, s.ptr(), s.step(), d.ptr(), d.step(), s.size(), n);
+            for (int i = 0; i < count; ++i)
+                ASSERT_EQ(double(d.ptr()[i]), want[i])
+                    << f.m->name << " level " << zelGetIsaLevel() << " n=" << n << " x=" << double(s.ptr()[i]);
+        });
+        if (::testing::Test::HasFatalFailure()) return;
+    }
 }
 TEST(Unary, EveryIntegerSample) { for_forms(forms({"Sqr", "Sqrt", "Ln", "Exp"}), 89, ZT_EACH_TYPE(every_value)); }
 

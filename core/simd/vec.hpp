@@ -526,3 +526,47 @@ inline T reduce_add(Vec<T, B> a) {
     for (int i = 0; i < Vec<T, B>::kLanes; ++i) s += a.v[i];
     return s;
 }
+
+// ---- Zel64f lanes from narrower samples (statistics) ------------------------------
+// V::kLanes samples of T from p (any address), converted by value to double
+// lanes: the float or integer widening instructions of each width (the
+// compiler's generic conversion of vectors shorter than 16 bytes goes lane by
+// lane). Every conversion is exact.
+template <class T>
+inline __m128i load_low(const T* p, int bytes) {
+    if (bytes == 16) return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+    if (bytes == 8) return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+    int v = 0;
+    __builtin_memcpy(&v, p, std::size_t(bytes));
+    return _mm_cvtsi32_si128(v);
+}
+
+template <class V, class T>
+inline V load_f64(const T* p) {
+    static_assert(std::is_same<typename V::Lane, double>::value, "double lanes");
+    constexpr int B = V::kWidth, N = V::kLanes;
+    if constexpr (std::is_same<T, float>::value) {
+        if constexpr (B == 16) return wrap<double, B>(_mm_cvtps_pd(_mm_castsi128_ps(load_low(p, 8))));
+        else if constexpr (B == 32) return wrap<double, B>(_mm256_cvtps_pd(_mm_loadu_ps(p)));
+        else return wrap<double, B>(_mm512_cvtps_pd(_mm256_loadu_ps(p)));
+    } else if constexpr (N == 8) {
+        // 32-bit lanes in one 256-bit register, then converted
+        __m256i w;
+        if constexpr (sizeof(T) == 4) w = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p));
+        else if constexpr (sizeof(T) == 2)
+            w = std::is_signed<T>::value ? _mm256_cvtepi16_epi32(load_low(p, 16)) : _mm256_cvtepu16_epi32(load_low(p, 16));
+        else w = std::is_signed<T>::value ? _mm256_cvtepi8_epi32(load_low(p, 8)) : _mm256_cvtepu8_epi32(load_low(p, 8));
+        if constexpr (std::is_same<T, std::uint32_t>::value) return wrap<double, B>(_mm512_cvtepu32_pd(w));
+        else return wrap<double, B>(_mm512_cvtepi32_pd(w));
+    } else {
+        __m128i w = load_low(p, N * int(sizeof(T)));
+        if constexpr (sizeof(T) == 2) w = std::is_signed<T>::value ? _mm_cvtepi16_epi32(w) : _mm_cvtepu16_epi32(w);
+        if constexpr (sizeof(T) == 1) w = std::is_signed<T>::value ? _mm_cvtepi8_epi32(w) : _mm_cvtepu8_epi32(w);
+        V d;
+        if constexpr (B == 16) d = wrap<double, B>(_mm_cvtepi32_pd(w));
+        else d = wrap<double, B>(_mm256_cvtepi32_pd(w));
+        if constexpr (std::is_same<T, std::uint32_t>::value) // lanes read as negative are 2^32 too small
+            d = select(lt(d, zero<V>()), d + set1<V>(4294967296.0), d);
+        return d;
+    }
+}

@@ -76,7 +76,7 @@ Found<T> ref_indx(const zt::Image<T>& im, int c) {
 // better; lanes fold per channel in ascending order, rows merge the same way.
 template <bool Min>
 float ref_lane_scan(const zt::Image<float>& im, Form f, int c) {
-    const int P = f.mc == 3 ? 12 : 8;
+    const int P = f.mc == 3 ? 48 : 16;
     auto op = [](float a, float b) { return (Min ? a < b : a > b) ? a : b; };
     float total = 0;
     for (int y = 0; y < im.height(); ++y) {
@@ -250,7 +250,7 @@ TEST(MinMax, FloatNaNFollowsTheLanes) {
     float v = 0;
     ASSERT_EQ(zeliMin_32f_C1R(row.data(), 160, ZeliSize{40, 1}, &v), zelStatusOk);
     EXPECT_EQ(v, 1.0f);
-    row[39] = nan; // the last sample of lane 7: folded last, it wins
+    row[31] = nan; // the last sample of lane 15: folded last, it wins
     ASSERT_EQ(zeliMin_32f_C1R(row.data(), 160, ZeliSize{40, 1}, &v), zelStatusOk);
     EXPECT_TRUE(std::isnan(v));
     // Only +inf or only NaN: the index scans report the largest finite value

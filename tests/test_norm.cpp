@@ -105,20 +105,23 @@ double accumulate(const zt::Image<T>& a, const zt::Image<T>* b, int c, Kind k, i
         double even = 0, odd = 0;
         for (int y = 0; y < a.height(); ++y) {
             double acc[8] = {};
-            for (int x = 0; x < w; ++x) {
+            auto t = [&](int x) {
                 const double d = double(a.at(x, y, c)) - (b ? double(b->at(x, y, c)) : 0.0);
-                const double t = k == L1 ? std::fabs(d) : d * d;
-                if (w < 16) (x % 2 ? odd : even) += t;
-                else acc[(w % 2 && x == w - 1) ? 0 : x % 8] += t;
+                return k == L1 ? std::fabs(d) : d * d;
+            };
+            for (int x = 0; x < w / 2 * 2; ++x) {
+                if (w < 16) (x % 2 ? odd : even) += t(x);
+                else acc[x < w / 8 * 8 ? x % 8 : x % 2] += t(x);
             }
             if (w >= 16) {
                 even += (acc[0] + acc[2]) + (acc[4] + acc[6]);
                 odd += (acc[1] + acc[3]) + (acc[5] + acc[7]);
             }
+            if (w % 2) even += t(w - 1);
         }
         return even + odd;
     }
-    const int P = ch == 3 ? 24 : 8;
+    const int P = ch == 3 ? 12 : 16;
     double tot = 0;
     for (int y = 0; y < a.height(); ++y) {
         std::vector<float> lane(P, 0.0f);

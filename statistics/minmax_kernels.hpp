@@ -10,6 +10,27 @@ inline Vec<T, B> pick(Vec<T, B> a, Vec<T, B> b) {
     else return max(a, b);
 }
 
+// Runs the whole periods of a row (G vectors V) through the lanes la (running
+// minimum, op(lane, sample)) and lb (maximum), which are kept in memory;
+// returns where the samples after the last whole period start.
+template <class V, int G, bool LO, bool HI>
+inline std::ptrdiff_t extremes_lanes(const typename V::Lane* p, std::ptrdiff_t n, typename V::Lane* la,
+                                     typename V::Lane* lb) {
+    constexpr int L = V::kLanes, P = G * L;
+    V a[G], b[G];
+    for (int g = 0; g < G; ++g) a[g] = load_a<V>(la + g * L), b[g] = load_a<V>(lb + g * L);
+    std::ptrdiff_t i = 0;
+    for (; i + P <= n; i += P)
+#pragma GCC unroll 12
+        for (int g = 0; g < G; ++g) {
+            const V x = load<V>(p + i + g * L);
+            if constexpr (LO) a[g] = min(a[g], x);
+            if constexpr (HI) b[g] = max(b[g], x);
+        }
+    for (int g = 0; g < G; ++g) store_a(la + g * L, a[g]), store_a(lb + g * L, b[g]);
+    return i;
+}
+
 // ---- Integer extremes, order-free ----------------------------------------------
 // Running minimum (lanes at 0 of st.lanes) and maximum (lanes at 192) of
 // every lane, kept from row to row; a period is K loads of whole pixels, so
@@ -18,33 +39,22 @@ inline Vec<T, B> pick(Vec<T, B> a, Vec<T, B> b) {
 template <class T, int MC, bool LO, bool HI>
 void int_extremes_row(const T* p, std::ptrdiff_t n, LaneState& st, bool last, T* lo, T* hi) {
     using V = Vec<T>;
-    constexpr int L = V::kLanes, K = MC == 3 ? 3 : 1, P = K * L;
-    T* store_lo = reinterpret_cast<T*>(st.lanes);
-    T* store_hi = reinterpret_cast<T*>(st.lanes + 192);
+    constexpr int K = MC == 3 ? 3 : 1, P = K * V::kLanes;
+    T* la = reinterpret_cast<T*>(st.lanes);
+    T* lb = reinterpret_cast<T*>(st.lanes + 192);
     if (!st.ready) {
-        for (int i = 0; i < P; ++i) store_lo[i] = std::numeric_limits<T>::max(), store_hi[i] = std::numeric_limits<T>::lowest();
+        for (int i = 0; i < P; ++i) la[i] = std::numeric_limits<T>::max(), lb[i] = std::numeric_limits<T>::lowest();
         st.ready = true;
     }
-    V a[K], b[K];
-    for (int q = 0; q < K; ++q) a[q] = load_a<V>(store_lo + q * L), b[q] = load_a<V>(store_hi + q * L);
-    std::ptrdiff_t i = 0;
-    for (; i + P <= n; i += P)
-#pragma GCC unroll 3
-        for (int q = 0; q < K; ++q) {
-            const V x = load<V>(p + i + q * L);
-            if constexpr (LO) a[q] = min(a[q], x);
-            if constexpr (HI) b[q] = max(b[q], x);
-        }
-    for (int q = 0; q < K; ++q) store_a(store_lo + q * L, a[q]), store_a(store_hi + q * L, b[q]);
-    for (; i < n; ++i) {
+    for (std::ptrdiff_t i = extremes_lanes<V, K, LO, HI>(p, n, la, lb); i < n; ++i) {
         const int c = MC == 1 ? 0 : int(i % MC);
         lo[c] = pick<true>(lo[c], p[i]);
         hi[c] = pick<false>(hi[c], p[i]);
     }
     if (last)
         for (int l = 0; l < P; ++l) {
-            lo[l % MC] = pick<true>(lo[l % MC], store_lo[l]);
-            hi[l % MC] = pick<false>(hi[l % MC], store_hi[l]);
+            lo[l % MC] = pick<true>(lo[l % MC], la[l]);
+            hi[l % MC] = pick<false>(hi[l % MC], lb[l]);
         }
 }
 
@@ -57,20 +67,9 @@ template <int MC, bool LO, bool HI>
 void f32_extremes_row(const float* p, std::ptrdiff_t n, float* lo, float* hi) {
     constexpr int P = MC == 3 ? 48 : 16;
     using V = Vec<float, (P * 4 < kBytes ? P * 4 : kBytes)>;
-    constexpr int L = V::kLanes, G = P / L;
     alignas(64) float la[P], lb[P];
     for (int l = 0; l < P; ++l) la[l] = lb[l] = p[l % MC];
-    V a[G], b[G];
-    for (int g = 0; g < G; ++g) a[g] = load_a<V>(la + g * L), b[g] = load_a<V>(lb + g * L);
-    std::ptrdiff_t i = 0;
-    for (; i + P <= n; i += P)
-#pragma GCC unroll 12
-        for (int g = 0; g < G; ++g) {
-            const V x = load<V>(p + i + g * L);
-            if constexpr (LO) a[g] = min(a[g], x);
-            if constexpr (HI) b[g] = max(b[g], x);
-        }
-    for (int g = 0; g < G; ++g) store_a(la + g * L, a[g]), store_a(lb + g * L, b[g]);
+    std::ptrdiff_t i = extremes_lanes<V, P / V::kLanes, LO, HI>(p, n, la, lb);
     for (int l = 0; i < n; ++i, ++l) {
         la[l] = pick<true>(la[l], p[i]);
         lb[l] = pick<false>(lb[l], p[i]);

@@ -64,9 +64,6 @@ inline void split(Vec<T, B> a, Vec<U, B>* out) {
 //   kMax       the lanes keep the largest term instead of the sum
 //   terms(a, b, q, out)   the terms of load q of a period, into kVecs vectors
 //   one(a, b, c)          the term of one sample of channel c
-template <Red R, class T, int MC, bool TWO>
-struct LaneOp;
-
 struct LaneOpBase {
     static constexpr bool kMax = false;
     explicit LaneOpBase(LaneState&) {}
@@ -80,40 +77,29 @@ struct Split1 {
     static int sample(int v, int j) { return 2 * j + v; }
 };
 
-template <class T, int MC, bool TWO>
-struct LaneOp<Red::Sum, T, MC, TWO> : LaneOpBase, Split1 {
+// Sums of the samples (Sum) or of their magnitudes (L1): bytes of one channel
+// by sums of absolute differences with zero, 8 bytes a lane; otherwise the
+// even and the odd samples in lanes of twice the size.
+template <Red R, class T, int MC, bool TWO>
+struct LaneOp : LaneOpBase, Split1 {
+    static_assert(R == Red::Sum || R == Red::L1, "the other reductions have their own ops");
     using LaneOpBase::LaneOpBase;
     using Split1::sample;
-    // bytes of one channel: sums of absolute differences with zero, 8 bytes a lane
+    using M = std::conditional_t<R == Red::Sum, T, std::make_unsigned_t<T>>; // what is summed
+    using W = typename IntOfSize<2 * sizeof(T)>::type;
     static constexpr bool kSad = sizeof(T) == 1 && MC == 1;
-    using U = std::conditional_t<kSad, std::uint64_t,
-                                 std::conditional_t<sizeof(T) == 1, std::uint16_t,
-                                                    std::conditional_t<std::is_signed<T>::value, std::int32_t, std::uint32_t>>>;
+    using U = std::conditional_t<kSad, std::uint64_t, std::conditional_t<std::is_signed<M>::value, W, std::make_unsigned_t<W>>>;
     static constexpr int kVecs = kSad ? 1 : 2;
     static constexpr long long kLimit = kSad ? (1LL << 50) : sizeof(T) == 1 ? 257 : 65536;
     template <class V, class A>
-    void terms(V a, V, int, A* out) const {
-        if constexpr (kSad) out[0] = sad(a, zero<V>());
-        else split(a, out);
-    }
-    long long one(T a, T, int) const { return a; }
-};
-
-template <class T, int MC, bool TWO>
-struct LaneOp<Red::L1, T, MC, TWO> : LaneOpBase, Split1 {
-    using LaneOpBase::LaneOpBase;
-    using Split1::sample;
-    static constexpr bool kSad = sizeof(T) == 1 && MC == 1;
-    using U = std::conditional_t<kSad, std::uint64_t, std::conditional_t<sizeof(T) == 1, std::uint16_t, std::uint32_t>>;
-    static constexpr int kVecs = kSad ? 1 : 2;
-    static constexpr long long kLimit = kSad ? (1LL << 50) : sizeof(T) == 1 ? 257 : 65537;
-    template <class V, class A>
     void terms(V a, V b, int, A* out) const {
-        const auto m = magnitude<TWO>(a, b);
+        Vec<M, V::kWidth> m;
+        if constexpr (R == Red::Sum) m = a;
+        else m = magnitude<TWO>(a, b);
         if constexpr (kSad) out[0] = sad(m, zero<decltype(m)>());
         else split(m, out);
     }
-    long long one(T a, T b, int) const { return magnitude<TWO>(a, b); }
+    long long one(T a, T b, int) const { return R == Red::Sum ? (long long)a : magnitude<TWO>(a, b); }
 };
 
 template <class T, int MC, bool TWO>

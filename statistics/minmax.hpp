@@ -125,10 +125,10 @@ ZelStatus extreme_index(const T* pSrc, int srcStep, ZeliSize roi, T* pRes, int* 
     const std::ptrdiff_t n = row_samples(roi.width, MC);
     for (int r = 0; r < roi.height; ++r) k(row(pSrc, srcStep, r), n, r, far, st, best, bestRow);
     // Phase two: the first matching pixel of the winning row, from the left.
+    const auto find = ZEL_PICK(find_first<T, MC>);
     for (int c = 0; c < AC; ++c) {
         const T* p = row(pSrc, srcStep, bestRow[c]);
-        int x = 0;
-        while (x < roi.width && !(p[row_samples(x, MC) + c] == best[c])) ++x;
+        const int x = find(p, roi.width, c, best[c]);
         pRes[c] = x < roi.width ? p[row_samples(x, MC) + c] : best[c];
         pIndexX[c] = x < roi.width ? x : 0;
         pIndexY[c] = bestRow[c];

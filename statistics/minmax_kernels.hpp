@@ -142,3 +142,25 @@ void every_row(const T* s, T* d, int n) {
         io.put(d + i, pick<MIN>(io.template get<V>(d + i), io.template get<V>(s + i)));
     });
 }
+
+// ---- Position of an extreme --------------------------------------------------------------
+// The first pixel of a row of w pixels whose sample of channel c equals v (by
+// ==, so -0 matches 0 and NaN matches nothing), or w when there is none.
+template <class T, int MC>
+int find_first(const T* p, int w, int c, T v) {
+    using V = Vec<T>;
+    constexpr int L = V::kLanes, K = MC == 3 ? 3 : 1, P = K * L;
+    std::uint64_t chan[K] = {}; // the lanes of each load of a period that hold channel c
+    for (int q = 0; q < K; ++q)
+        for (int j = 0; j < L; ++j) chan[q] |= std::uint64_t((q * L + j) % MC == c) << j;
+    const V key = set1<V>(v);
+    const std::ptrdiff_t n = std::ptrdiff_t(w) * MC;
+    std::ptrdiff_t i = 0;
+    for (; i + P <= n; i += P)
+        for (int q = 0; q < K; ++q)
+            if (const std::uint64_t m = bits(eq(load<V>(p + i + q * L), key)) & chan[q])
+                return int((i + q * L + __builtin_ctzll(m)) / MC);
+    for (i += c; i < n; i += MC)
+        if (p[i] == v) return int(i / MC);
+    return w;
+}

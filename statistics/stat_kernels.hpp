@@ -21,13 +21,19 @@ inline X term(X a, X b) {
 }
 
 // ---- Order-free integer reductions ---------------------------------------------------
-// |a - b| (or |a|) of integer lanes, exact in unsigned lanes of the same size.
+// |a - b| (or |a|) of integer lanes, exact in unsigned lanes of the same size
+// (the differences and negations wrap there, so -32768 gives 32768).
 template <bool TWO, class T, int B>
 inline Vec<std::make_unsigned_t<T>, B> magnitude(Vec<T, B> a, Vec<T, B> b) {
     using M = std::make_unsigned_t<T>;
-    if constexpr (TWO) return bitcast<M>(max(a, b) - min(a, b));
-    else if constexpr (std::is_signed<T>::value) return bitcast<M>(abs(a));
-    else return a;
+    if constexpr (TWO) {
+        return bitcast<M>(max(a, b)) - bitcast<M>(min(a, b));
+    } else if constexpr (std::is_signed<T>::value) {
+        const Vec<M, B> s = bitcast<M>(shr<8 * sizeof(T) - 1>(a)); // all ones for negative lanes
+        return (bitcast<M>(a) ^ s) - s;
+    } else {
+        return a;
+    }
 }
 template <bool TWO, class T>
 inline long long magnitude(T a, T b) {

@@ -310,8 +310,8 @@ void count(const T* src, int step, ZeliSize roi, const T* lo, const T* hi, int* 
         st.hi[c] = c < NA ? double(hi[c]) : 0.0;
     }
     const auto k = ZEL_PICK(lanes_row<Red::Count, T, CH, false>);
-    const std::ptrdiff_t n = row_samples(roi.width, CH);
-    for (int r = 0; r < roi.height; ++r) k(row(src, step, r), nullptr, n, st, r == roi.height - 1);
+    const Rows rows = rows_of<T>(roi, CH, step);
+    for (int r = 0; r < rows.h; ++r) k(row(src, step, r), nullptr, rows.n, st, r == rows.h - 1);
     for (int c = 0; c < NA; ++c) counts[c] = clamp32(st.total[c]);
 }
 

@@ -66,12 +66,11 @@ namespace zel {
 template <class T, Layout L, bool LO, bool HI>
 void value_scan(const T* pSrc, int step, ZeliSize roi, T* lo, T* hi) {
     constexpr int MC = channels(L);
-    const std::ptrdiff_t n = row_samples(roi.width, MC);
     if constexpr (std::is_same<T, Zel32f>::value) {
         const auto k = ZEL_PICK(f32_extremes_row<MC, LO, HI>);
         for (int r = 0; r < roi.height; ++r) {
             float a[4], b[4];
-            k(row(pSrc, step, r), n, a, b);
+            k(row(pSrc, step, r), row_samples(roi.width, MC), a, b);
             for (int c = 0; c < MC; ++c) {
                 lo[c] = r == 0 ? a[c] : pick<true>(lo[c], a[c]);
                 hi[c] = r == 0 ? b[c] : pick<false>(hi[c], b[c]);
@@ -81,7 +80,8 @@ void value_scan(const T* pSrc, int step, ZeliSize roi, T* lo, T* hi) {
         for (int c = 0; c < MC; ++c) lo[c] = std::numeric_limits<T>::max(), hi[c] = std::numeric_limits<T>::lowest();
         LaneState st;
         const auto k = ZEL_PICK(int_extremes_row<T, MC, LO, HI>);
-        for (int r = 0; r < roi.height; ++r) k(row(pSrc, step, r), n, st, r == roi.height - 1, lo, hi);
+        const Rows rows = rows_of<T>(roi, MC, step);
+        for (int r = 0; r < rows.h; ++r) k(row(pSrc, step, r), rows.n, st, r == rows.h - 1, lo, hi);
     }
 }
 

@@ -48,13 +48,15 @@ void int_pass(const T* a, int sa, const T* b, int sb, ZeliSize roi, double* out)
     constexpr int CH = channels(L);
     constexpr bool SAT = std::is_same<T, Zel16s>::value && !DIFF && K == NormKind::Inf;
     constexpr Red R = SAT ? Red::InfSat : K == NormKind::Inf ? Red::Inf : K == NormKind::L1 ? Red::L1 : Red::L2;
-    const std::ptrdiff_t n = row_samples(roi.width, CH);
+    // (the saturated maximum keeps its rows: it empties its lanes every row to
+    // see whether every channel has reached 32767, after which no row can
+    // change it and none is read)
+    const Rows rows = SAT ? Rows{row_samples(roi.width, CH), roi.height}
+                          : DIFF ? rows_of<T>(roi, CH, sa, sb) : rows_of<T>(roi, CH, sa);
     LaneState st;
     const auto k = ZEL_PICK(lanes_row<R, T, CH, DIFF>);
-    for (int r = 0; r < roi.height; ++r) {
-        // the saturated maximum empties its lanes every row to see whether
-        // every channel has reached 32767, after which no row can change it
-        k(row(a, sa, r), DIFF ? row(b, sb, r) : nullptr, n, st, SAT || r == roi.height - 1);
+    for (int r = 0; r < rows.h; ++r) {
+        k(row(a, sa, r), DIFF ? row(b, sb, r) : nullptr, rows.n, st, SAT || r == rows.h - 1);
         if (SAT) {
             bool all = true;
             for (int c = 0; c < active(L); ++c) all = all && st.total[c] >= 32767u;

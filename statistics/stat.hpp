@@ -18,6 +18,20 @@ namespace zel {
 // Samples of a row of `width` pixels of `mc` samples.
 inline std::ptrdiff_t row_samples(int width, int mc) { return std::ptrdiff_t(width) * mc; }
 
+// Rows of an order-free reduction: when every step equals the row's length
+// in bytes, the image is one row of width * height pixels (n samples, h = 1).
+struct Rows {
+    std::ptrdiff_t n;
+    int h;
+};
+template <class T, class... S>
+inline Rows rows_of(ZeliSize roi, int mc, S... steps) {
+    const long long rowBytes = (long long)roi.width * mc * (long long)sizeof(T);
+    const bool one = ((steps == rowBytes) && ...) &&
+                     roi.height <= std::numeric_limits<std::ptrdiff_t>::max() / 2 / rowBytes;
+    return one ? Rows{row_samples(roi.width, mc) * roi.height, 1} : Rows{row_samples(roi.width, mc), roi.height};
+}
+
 // A count for a signed 32-bit output: counts beyond its range give its largest value.
 inline Zel32s clamp32(unsigned long long n) { return n > unsigned(INT_MAX) ? INT_MAX : Zel32s(n); }
 

@@ -238,6 +238,7 @@ void lanes_row(const T* a, const T* b, std::ptrdiff_t n, LaneState& st, bool las
     for (std::ptrdiff_t left = n / P; left > 0;) {
         const long long room = Op::kLimit - st.periods;
         const std::ptrdiff_t k = left < room ? left : std::ptrdiff_t(room);
+#pragma GCC unroll 4
         for (std::ptrdiff_t j = 0; j < k; ++j, i += P)
 #pragma GCC unroll 3
             for (int q = 0; q < K; ++q) {

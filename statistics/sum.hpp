@@ -39,10 +39,10 @@ namespace zel {
 template <class T, Layout L>
 void sum_int(const T* pSrc, int step, ZeliSize roi, Zel64f* out) {
     constexpr int MC = channels(L);
-    const std::ptrdiff_t n = row_samples(roi.width, MC);
+    const Rows rows = rows_of<T>(roi, MC, step);
     LaneState st;
     const auto k = ZEL_PICK(lanes_row<Red::Sum, T, MC, false>);
-    for (int r = 0; r < roi.height; ++r) k(row(pSrc, step, r), nullptr, n, st, r == roi.height - 1);
+    for (int r = 0; r < rows.h; ++r) k(row(pSrc, step, r), nullptr, rows.n, st, r == rows.h - 1);
     for (int c = 0; c < active(L); ++c)
         out[c] = std::is_signed<T>::value ? Zel64f((long long)st.total[c]) : Zel64f(st.total[c]);
 }

@@ -42,9 +42,9 @@ void int_extremes_row(const T* p, std::ptrdiff_t n, LaneState& st, bool last, T*
     constexpr int K = MC == 3 ? 3 : 1, P = K * V::kLanes;
     T* la = reinterpret_cast<T*>(st.lanes);
     T* lb = reinterpret_cast<T*>(st.lanes + 192);
-    if (!st.ready) {
+    if (st.fresh) {
         for (int i = 0; i < P; ++i) la[i] = std::numeric_limits<T>::max(), lb[i] = std::numeric_limits<T>::lowest();
-        st.ready = true;
+        st.fresh = false;
     }
     for (std::ptrdiff_t i = extremes_lanes<V, K, LO, HI>(p, n, la, lb); i < n; ++i) {
         const int c = MC == 1 ? 0 : int(i % MC);

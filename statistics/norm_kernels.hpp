@@ -13,7 +13,8 @@ void f32_inf_row(const float* a, const float* b, std::ptrdiff_t n, LaneState& st
     constexpr int L = V::kLanes, K = MC == 3 ? 3 : 1, P = K * L;
     float* lanes = reinterpret_cast<float*>(st.lanes);
     V acc[K];
-    for (int q = 0; q < K; ++q) acc[q] = load_a<V>(lanes + q * L);
+    for (int q = 0; q < K; ++q) acc[q] = st.fresh ? zero<V>() : load_a<V>(lanes + q * L);
+    st.fresh = false;
     std::ptrdiff_t i = 0;
     for (; i + P <= n; i += P)
 #pragma GCC unroll 3

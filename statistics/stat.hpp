@@ -63,13 +63,15 @@ enum class Term { Id, Abs, Sq };
 // totals of its channels (signed or unsigned by the reduction; largest values
 // for Inf). The row kernel of one level loads the lanes at the start of a
 // row, stores them at its end, and empties them into the totals before any
-// lane could overflow and after the last row. `pattern` holds per-lane
-// constants a kernel builds on its first row (the bounds of a count).
+// lane could overflow and after the last row. A kernel sets its lanes up on
+// its first row (`fresh`), and builds there the per-lane constants it keeps
+// in `pattern` (`ready`: the bounds of a count, the best values of an index
+// scan).
 struct LaneState {
-    alignas(64) unsigned char lanes[768] = {};
-    alignas(64) unsigned char pattern[384] = {};
+    alignas(64) unsigned char lanes[768];
+    alignas(64) unsigned char pattern[384];
     long long periods = 0;
-    bool ready = false;
+    bool fresh = true, ready = false;
     double lo[4] = {}, hi[4] = {};
     unsigned long long total[4] = {};
 };

@@ -233,20 +233,34 @@ void lanes_row(const T* a, const T* b, std::ptrdiff_t n, LaneState& st, bool las
     static_assert(MC == 1 || N * A::kLanes == P, "one lane a sample");
     const Op op(st);
     A acc[N];
-    for (int m = 0; m < N; ++m) acc[m] = load_a<A>(reinterpret_cast<const U*>(st.lanes) + m * A::kLanes);
+    for (int m = 0; m < N; ++m) acc[m] = st.fresh ? zero<A>() : load_a<A>(reinterpret_cast<const U*>(st.lanes) + m * A::kLanes);
+    st.fresh = false;
+    auto comb = [](A x, A y) { return Op::kMax ? max(x, y) : x + y; };
+    // the terms of load q of the periods at i and at i + P (pairs never overflow a lane)
+    auto terms = [&](std::ptrdiff_t i, int q, bool pair, A* t) {
+        op.terms(load<V>(a + i + q * L), TWO ? load<V>(b + i + q * L) : V{}, q, t);
+        if (!pair) return;
+        A u[W];
+        op.terms(load<V>(a + i + P + q * L), TWO ? load<V>(b + i + P + q * L) : V{}, q, u);
+        for (int w = 0; w < W; ++w) t[w] = comb(t[w], u[w]);
+    };
+    auto add = [&](std::ptrdiff_t i, bool pair) {
+#pragma GCC unroll 3
+        for (int q = 0; q < K; ++q) {
+            A t[W];
+            terms(i, q, pair, t);
+#pragma GCC unroll 4
+            for (int w = 0; w < W; ++w) acc[q * W + w] = comb(acc[q * W + w], t[w]);
+        }
+    };
     std::ptrdiff_t i = 0;
     for (std::ptrdiff_t left = n / P; left > 0;) {
         const long long room = Op::kLimit - st.periods;
         const std::ptrdiff_t k = left < room ? left : std::ptrdiff_t(room);
-#pragma GCC unroll 4
-        for (std::ptrdiff_t j = 0; j < k; ++j, i += P)
-#pragma GCC unroll 3
-            for (int q = 0; q < K; ++q) {
-                A t[W];
-                op.terms(load<V>(a + i + q * L), TWO ? load<V>(b + i + q * L) : V{}, q, t);
-#pragma GCC unroll 4
-                for (int w = 0; w < W; ++w) acc[q * W + w] = Op::kMax ? max(acc[q * W + w], t[w]) : acc[q * W + w] + t[w];
-            }
+        std::ptrdiff_t j = 0;
+#pragma GCC unroll 2
+        for (; j + 2 <= k; j += 2, i += 2 * P) add(i, true);
+        if (j < k) add(i, false), i += P;
         left -= k;
         st.periods += k;
         if (st.periods >= Op::kLimit) {

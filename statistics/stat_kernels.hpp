@@ -29,8 +29,8 @@ inline Vec<std::make_unsigned_t<T>, B> magnitude(Vec<T, B> a, Vec<T, B> b) {
     if constexpr (TWO) {
         return bitcast<M>(max(a, b)) - bitcast<M>(min(a, b));
     } else if constexpr (std::is_signed<T>::value) {
-        const Vec<M, B> s = bitcast<M>(shr<8 * sizeof(T) - 1>(a)); // all ones for negative lanes
-        return (bitcast<M>(a) ^ s) - s;
+        const Vec<T, B> neg = bitcast<T>(zero<Vec<M, B>>() - bitcast<M>(a)); // -minimum wraps to itself
+        return bitcast<M>(max(a, neg));
     } else {
         return a;
     }
@@ -153,13 +153,15 @@ struct LaneOp<Red::Inf, T, MC, TWO> : LaneOpBase {
 template <class T, int MC, bool TWO>
 struct LaneOp<Red::InfSat, T, MC, TWO> : LaneOp<Red::Inf, T, MC, false> {
     explicit LaneOp(LaneState& st) : LaneOp<Red::Inf, T, MC, false>(st) {}
+    // max(a, -a) with a saturating negation: -32768 gives 32767
     template <class V, class A>
-    void terms(V a, V, int, A* out) const { out[0] = min(magnitude<false>(a, a), set1<A>(32767)); }
+    void terms(V a, V, int, A* out) const { out[0] = bitcast<typename A::Lane>(max(a, subs(zero<V>(), a))); }
     long long one(T a, T, int) const { return a == -32768 ? 32767 : magnitude<false>(a, a); }
 };
 
 // Counts of lower <= v <= upper (for Zel32f: not v < lower and v <= upper, so
-// that NaN is never counted), with the bounds of the lane's channel.
+// that NaN is never counted), with the bounds of the lane's channel. Bytes
+// test v - lower <= upper - lower in wrapping unsigned arithmetic.
 template <class T, int MC, bool TWO>
 struct LaneOp<Red::Count, T, MC, TWO> {
     using U = std::conditional_t<sizeof(T) == 1, std::uint8_t, std::uint32_t>;
@@ -176,7 +178,7 @@ struct LaneOp<Red::Count, T, MC, TWO> {
         static_assert(2 * K * L * sizeof(T) <= sizeof(st.pattern), "room for the bounds of a period");
         if (!st.ready) {
             T* p = reinterpret_cast<T*>(st.pattern);
-            for (int i = 0; i < K * L; ++i) p[i] = lo[i % MC], p[K * L + i] = hi[i % MC];
+            for (int i = 0; i < K * L; ++i) p[i] = lo[i % MC], p[K * L + i] = sizeof(T) == 1 ? T(hi[i % MC] - lo[i % MC]) : hi[i % MC];
             st.ready = true;
         }
     }
@@ -184,7 +186,7 @@ struct LaneOp<Red::Count, T, MC, TWO> {
     void terms(V a, V, int q, A* out) const {
         const V l = load_a<V>(pattern + q * L), h = load_a<V>(pattern + (K + q) * L);
         V in;
-        if constexpr (sizeof(T) == 1) in = eq(max(a, l), a) & eq(min(a, h), a);
+        if constexpr (sizeof(T) == 1) in = eq(subs(a - l, h), zero<V>());
         else in = andnot(lt(a, l), le(a, h));
         out[0] = bitcast<U>(in) & set1<A>(1);
     }

@@ -772,6 +772,8 @@ ZEL_VI V load_f64(const T* p) {
         if constexpr (std::is_same<T, std::uint32_t>::value) // lanes read as negative are 2^32 too small
             d = select(lt(d, zero<V>()), d + set1<V>(4294967296.0), d);
         return d;
+    }
+}
 
 // ---- Unary mathematics and shifts: double lanes, byte shifts, small tables --
 // Double lanes to 32-bit integers towards zero, a's lanes first (the values

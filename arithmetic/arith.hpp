@@ -298,6 +298,19 @@ inline int gate(Sc c) {
 inline bool fork_by(int g, ZeliSize roi) { return g == 0 || (g > 0 && roi.width + roi.height >= g); }
 
 // ---- Entry: add, subtract, multiply ------------------------------------------------
+// Calls go(std::integral_constant<Sc, c>) for a scale case other than Zero,
+// so that each case compiles its own rows.
+template <class F>
+inline void with_case(Sc c, F&& go) {
+    switch (c) {
+    case Sc::Plain: go(std::integral_constant<Sc, Sc::Plain>{}); break;
+    case Sc::One: go(std::integral_constant<Sc, Sc::One>{}); break;
+    case Sc::Pos: go(std::integral_constant<Sc, Sc::Pos>{}); break;
+    case Sc::Neg: go(std::integral_constant<Sc, Sc::Neg>{}); break;
+    default: go(std::integral_constant<Sc, Sc::Bound>{}); break;
+    }
+}
+
 // Runs scalar operation Op over the image with the element type E and pixel shape.
 template <class Op, class E, int SP, int AP, bool CONST>
 inline void apply(const Op& op, const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSize roi, bool fork) {
@@ -400,13 +413,7 @@ ZelStatus sfs_entry(const E* a, int as, const E* b, int bs, E* d, int ds, ZeliSi
             else
                 apply<CplxMulOp<E, C>, EW, SP, AP, CONST>(CplxMulOp<E, C>{n}, wa, as, wb, bs, wd, ds, roi, fork);
         };
-        switch (c) {
-        case Sc::Plain: go(std::integral_constant<Sc, Sc::Plain>{}); break;
-        case Sc::One: go(std::integral_constant<Sc, Sc::One>{}); break;
-        case Sc::Pos: go(std::integral_constant<Sc, Sc::Pos>{}); break;
-        case Sc::Neg: go(std::integral_constant<Sc, Sc::Neg>{}); break;
-        default: go(std::integral_constant<Sc, Sc::Bound>{}); break;
-        }
+        with_case(c, go);
         return zelStatusOk;
     }
 }

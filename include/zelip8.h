@@ -4093,6 +4093,777 @@ ZELAPI ZelStatus zeliCountInRange_32f_AC4R(
     const Zel32f* pSrc, int srcStep, ZeliSize roiSize, int counts[3], Zel32f lowerBound[3],
     Zel32f upperBound[3]);
 
+/* ==== Unary mathematics, sample by sample ===============================
+
+   zeliAbs: |x|, with -32768 giving
+   32767 and a float losing its sign bit; zeliSqr: x * x; zeliSqrt: the square
+   root; zeliLn: the natural logarithm; zeliExp: e to the x. Sfs forms scale
+   the result by two to the minus scaleFactor: the square by the ties-to-even
+   rule of zeliAdd, the root and the logarithm to nearest, the exponential
+   truncated; all saturate. A sample below zero gives NaN (32f) or 0 in
+   zeliSqrt, NaN (32f) or the type's lowest value in zeliLn; zero gives minus
+   infinity (32f) or the type's lowest value in zeliLn. zeliAbs and
+   zeliSqrt_32f walk an out-of-place source by its step rounded down to whole
+   samples.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep. The
+   warnings zelStatusSqrtNegativeWarning (a negative sample in zeliSqrt),
+   zelStatusLnNegativeWarning and zelStatusLnZeroWarning (zeliLn) come with
+   every result written; the first row that raises one decides which.
+
+   Example:
+       Zel16s v[4] = {-32768, -5, 0, 7};
+       Zel8u x[4] = {0, 1, 100, 255}, r[4];
+       ZeliSize roi = {4, 1};
+       // |v| in place: 32767, 5, 0, 7
+       ZelStatus st = zeliAbs_16s_C1IR(v, 8, roi);
+       // sqrt(x) * 2: 0, 2, 20, 32 (31.94 rounded)
+       if (st == zelStatusOk) st = zeliSqrt_8u_C1RSfs(x, 4, r, 4, roi, -1); */
+
+/* zeliAbs */
+ZELAPI ZelStatus zeliAbs_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C1IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C3IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_AC4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliSqr */
+ZELAPI ZelStatus zeliSqr_8u_C1RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C1IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C3RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C3IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C4RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C4IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_AC4RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_AC4IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C1IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C3RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C3IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C4RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C4IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_AC4RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_AC4IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C1RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C1IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C3RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C3IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C4RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C4IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_AC4RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_AC4IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliSqrt */
+ZELAPI ZelStatus zeliSqrt_8u_C1RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_C1IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_C3RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_C3IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_AC4RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_AC4IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_C1IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_C3RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_C3IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_AC4RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_AC4IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_C1RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_C1IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_C3RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_C3IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_AC4RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_AC4IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliLn */
+ZELAPI ZelStatus zeliLn_8u_C1RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_8u_C1IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_8u_C3RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_8u_C3IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16u_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16u_C1IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16u_C3RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16u_C3IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16s_C1RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16s_C1IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16s_C3RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16s_C3IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLn_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLn_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLn_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliExp */
+ZELAPI ZelStatus zeliExp_8u_C1RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_8u_C1IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_8u_C3RSfs(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_8u_C3IRSfs(
+    Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16u_C1RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16u_C1IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16u_C3RSfs(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16u_C3IRSfs(
+    Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16s_C1RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16s_C1IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16s_C3RSfs(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16s_C3IRSfs(
+    Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliExp_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliExp_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliExp_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* ==== Bitwise operations and shifts =====================================
+
+   zeliAnd, zeliOr, zeliXor: dst = src1 op src2
+   (in place srcDst = src op srcDst); zeliAndC, zeliOrC, zeliXorC: dst = src op
+   value, one value a channel; zeliNot: dst = ~src. zeliLShiftC, zeliRShiftC:
+   shifts by a count a channel (value), left discarding high bits, right
+   logical on unsigned and arithmetic on signed samples; a count at or beyond
+   the sample's bits gives 0, or the sign fill (0 or -1) on signed samples.
+   zeliComplement_32s_C1IR: two's complement to sign and magnitude. AC4 forms
+   leave alpha alone.
+
+   Checks: zelStatusNullPointer, zelStatusBadStep, zelStatusBadSize; the
+   two-image C3, C4 and AC4 forms test the width (zelStatusBadSize) first. A
+   count is never an error.
+
+   Example:
+       Zel8u a[4] = {0xf0, 0x0f, 0xff, 200}, b[4] = {0x3c, 0x3c, 0x01, 255}, d[4];
+       Zel8s s[2] = {-5, 5}, t[2];
+       ZeliSize roi = {4, 1}, two = {2, 1};
+       // a AND b: 0x30, 0x0c, 0x01, 200
+       ZelStatus st = zeliAnd_8u_C1R(a, 4, b, 4, d, 4, roi);
+       // a << 1, high bits dropped: 0xe0, 0x1e, 0xfe, 144
+       if (st == zelStatusOk) st = zeliLShiftC_8u_C1R(a, 4, 1, d, 4, roi);
+       // beyond the bits a signed sample keeps its sign: -1, 0
+       if (st == zelStatusOk) st = zeliRShiftC_8s_C1R(s, 2, 40, t, 2, two); */
+
+/* zeliAnd */
+ZELAPI ZelStatus zeliAnd_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C1IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C3IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_AC4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C1IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C3IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_AC4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C1R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C1IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C3R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C3IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C4IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_AC4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_AC4IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliAndC */
+ZELAPI ZelStatus zeliAndC_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C1IR(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C3R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C3IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_AC4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C1IR(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C3R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C3IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_AC4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C1IR(Zel32s value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C3R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C3IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C4R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C4IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_AC4IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliOr */
+ZELAPI ZelStatus zeliOr_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C1IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C3IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_AC4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C1IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C3IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_AC4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C1R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C1IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C3R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C3IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C4IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_AC4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_AC4IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliOrC */
+ZELAPI ZelStatus zeliOrC_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C1IR(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C3R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C3IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_AC4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C1IR(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C3R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C3IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_AC4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C1IR(Zel32s value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C3R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C3IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C4R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C4IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_AC4IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliXor */
+ZELAPI ZelStatus zeliXor_8u_C1R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C1IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C3R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C3IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_AC4R(
+    const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_AC4IR(
+    const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C1R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C1IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C3R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C3IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_AC4R(
+    const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_AC4IR(
+    const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C1R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C1IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C3R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C3IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C4IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_AC4R(
+    const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_AC4IR(
+    const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliXorC */
+ZELAPI ZelStatus zeliXorC_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C1IR(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C3R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C3IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, const Zel8u* value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_AC4IR(
+    const Zel8u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C1IR(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C3R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C3IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, const Zel16u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_AC4IR(
+    const Zel16u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C1IR(Zel32s value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C3R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C3IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C4R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C4IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, const Zel32s* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_AC4IR(
+    const Zel32s* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliNot */
+ZELAPI ZelStatus zeliNot_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_AC4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliLShiftC */
+ZELAPI ZelStatus zeliLShiftC_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel32u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C1IR(
+    Zel32u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C3R(
+    const Zel8u* pSrc, int srcStep, const Zel32u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C3IR(
+    const Zel32u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C4R(
+    const Zel8u* pSrc, int srcStep, const Zel32u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C4IR(
+    const Zel32u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, const Zel32u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_AC4IR(
+    const Zel32u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel32u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C1IR(
+    Zel32u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C3R(
+    const Zel16u* pSrc, int srcStep, const Zel32u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C3IR(
+    const Zel32u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C4R(
+    const Zel16u* pSrc, int srcStep, const Zel32u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C4IR(
+    const Zel32u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, const Zel32u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_AC4IR(
+    const Zel32u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32u value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C1IR(
+    Zel32u value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C3R(
+    const Zel32s* pSrc, int srcStep, const Zel32u* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C3IR(
+    const Zel32u* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C4R(
+    const Zel32s* pSrc, int srcStep, const Zel32u* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C4IR(
+    const Zel32u* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, const Zel32u* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_AC4IR(
+    const Zel32u* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliRShiftC */
+ZELAPI ZelStatus zeliRShiftC_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel32u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C1IR(
+    Zel32u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C3R(
+    const Zel8u* pSrc, int srcStep, const Zel32u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C3IR(
+    const Zel32u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C4R(
+    const Zel8u* pSrc, int srcStep, const Zel32u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C4IR(
+    const Zel32u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, const Zel32u* value, Zel8u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_AC4IR(
+    const Zel32u* value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C1R(
+    const Zel8s* pSrc, int srcStep, Zel32u value, Zel8s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C1IR(
+    Zel32u value, Zel8s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C3R(
+    const Zel8s* pSrc, int srcStep, const Zel32u* value, Zel8s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C3IR(
+    const Zel32u* value, Zel8s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C4R(
+    const Zel8s* pSrc, int srcStep, const Zel32u* value, Zel8s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C4IR(
+    const Zel32u* value, Zel8s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_AC4R(
+    const Zel8s* pSrc, int srcStep, const Zel32u* value, Zel8s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_AC4IR(
+    const Zel32u* value, Zel8s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel32u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C1IR(
+    Zel32u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C3R(
+    const Zel16u* pSrc, int srcStep, const Zel32u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C3IR(
+    const Zel32u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C4R(
+    const Zel16u* pSrc, int srcStep, const Zel32u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C4IR(
+    const Zel32u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, const Zel32u* value, Zel16u* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_AC4IR(
+    const Zel32u* value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel32u value, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C1IR(
+    Zel32u value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C3R(
+    const Zel16s* pSrc, int srcStep, const Zel32u* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C3IR(
+    const Zel32u* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C4R(
+    const Zel16s* pSrc, int srcStep, const Zel32u* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C4IR(
+    const Zel32u* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, const Zel32u* value, Zel16s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_AC4IR(
+    const Zel32u* value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32u value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C1IR(
+    Zel32u value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C3R(
+    const Zel32s* pSrc, int srcStep, const Zel32u* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C3IR(
+    const Zel32u* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C4R(
+    const Zel32s* pSrc, int srcStep, const Zel32u* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C4IR(
+    const Zel32u* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_AC4R(
+    const Zel32s* pSrc, int srcStep, const Zel32u* value, Zel32s* pDst, int dstStep,
+    ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_AC4IR(
+    const Zel32u* value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* zeliComplement */
+ZELAPI ZelStatus zeliComplement_32s_C1IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
 #ifdef __cplusplus
 }
 #endif

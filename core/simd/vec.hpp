@@ -774,3 +774,65 @@ ZEL_VI V load_f64(const T* p) {
         return d;
     }
 }
+
+// ---- Unary mathematics and shifts: double lanes, byte shifts, small tables --
+// Double lanes to 32-bit integers towards zero, a's lanes first (the values
+// must be in range).
+template <int B>
+ZEL_VI Vec<std::int32_t, B> trunc_int(Vec<double, B> a, Vec<double, B> b) {
+    return concat(convert<std::int32_t>(a), convert<std::int32_t>(b));
+}
+
+// Rounding of double lanes to integral values by a fixed mode, as round_to of
+// float lanes.
+template <int Mode, int B>
+ZEL_VI Vec<double, B> round_to(Vec<double, B> a) {
+    if constexpr (B == 16) return wrap<double, B>(_mm_round_pd(rd(a), Mode | _MM_FROUND_NO_EXC));
+    else if constexpr (B == 32) return wrap<double, B>(_mm256_round_pd(rd(a), Mode | _MM_FROUND_NO_EXC));
+    else return wrap<double, B>(_mm512_roundscale_pd(rd(a), Mode | _MM_FROUND_NO_EXC));
+}
+
+// Every lane shifted by n (0 <= n < lane bits): left discards the high bits,
+// right is logical for unsigned lanes and arithmetic for signed ones. Byte
+// lanes shift as 16-bit lanes and drop the bits that crossed into a
+// neighbour; a signed byte gets its sign back by (u ^ m) - m, m = 0x80 >> n.
+template <class T, int B>
+ZEL_VI Vec<T, B> shift_l(Vec<T, B> a, int n) {
+    using U = std::make_unsigned_t<T>;
+    if constexpr (sizeof(T) == 1)
+        return bitcast<T>(shl(bitcast<std::uint16_t>(a), n)) & set1<Vec<T, B>>(T(0xff & (0xff << n)));
+    else return bitcast<T>(shl(bitcast<U>(a), n));
+}
+template <class T, int B>
+ZEL_VI Vec<T, B> shift_r(Vec<T, B> a, int n) {
+    if constexpr (sizeof(T) == 1) {
+        const Vec<T, B> u = bitcast<T>(shr(bitcast<std::uint16_t>(a), n)) & set1<Vec<T, B>>(T(0xff >> n));
+        if constexpr (std::is_signed<T>::value) {
+            using U8 = Vec<std::uint8_t, B>;
+            const U8 m = set1<U8>(std::uint8_t(0x80 >> n));
+            return bitcast<T>((bitcast<std::uint8_t>(u) ^ m) - m);
+        } else {
+            return u;
+        }
+    } else {
+        return shr(a, n);
+    }
+}
+
+// Lanes of an eight-entry float table picked by 32-bit indices in [0, 7]:
+// two byte shuffles of the table's halves at 16 bytes, one permute wider.
+template <int B>
+ZEL_VI Vec<float, B> lookup8(const float* table, Vec<std::int32_t, B> idx) {
+    if constexpr (B == 16) {
+        const __m128i spread = _mm_setr_epi8(0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12);
+        const __m128i c = _mm_add_epi8(_mm_shuffle_epi8(_mm_slli_epi32(ri(idx), 2), spread),
+                                       _mm_set1_epi32(0x03020100));
+        const __m128 lo = _mm_castsi128_ps(_mm_shuffle_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(table)), c));
+        const __m128 hi = _mm_castsi128_ps(_mm_shuffle_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(table + 4)), c));
+        return wrap<float, B>(_mm_blendv_ps(lo, hi, _mm_castsi128_ps(_mm_slli_epi32(ri(idx), 29))));
+    } else if constexpr (B == 32) {
+        return wrap<float, B>(_mm256_permutevar8x32_ps(_mm256_loadu_ps(table), ri(idx)));
+    } else {
+        return wrap<float, B>(_mm512_permutexvar_ps(ri(idx), _mm512_zextps256_ps512(_mm256_loadu_ps(table))));
+    }
+}

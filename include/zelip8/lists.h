@@ -14,3 +14,5 @@
 #include "zelip8/fn_minmax.h"
 #include "zelip8/fn_norm.h"
 #include "zelip8/fn_hist.h"
+#include "zelip8/fn_unary.h"
+#include "zelip8/fn_logic.h"

@@ -4080,6 +4080,203 @@ ZELAPI ZelStatus zeliCountInRange_32f_AC4R(
     const Zel32f* pSrc, int srcStep, ZeliSize roiSize, int counts[3], Zel32f lowerBound[3],
     Zel32f upperBound[3]);
 
+/* ==== Box filter ========================================================
+
+   zeliFilterBox replaces every pixel by the mean of a maskSize rectangle of
+   source pixels: dst(x, y) = mean of src(x - anchor.x + i, y - anchor.y + j),
+   i < maskSize.width, j < maskSize.height (the mask is not reflected). Nothing
+   pads: the caller keeps anchor.x columns to the left of the region,
+   maskSize.width - 1 - anchor.x to its right, anchor.y rows above and
+   maskSize.height - 1 - anchor.y below readable. The cost does not grow with
+   the mask. Integer means follow fixed formulas per type and path (8u:
+   (S * mul + half) >> shift, or a truncated float product above an area of
+   8100; 16s and 16u: rounded float products); 32f and 64f multiply a float
+   sum by 1 / area. AC4 leaves the destination alpha alone. The I forms work
+   in place; equal source and destination pointers make the call the in-place
+   one on the destination's step. 16-bit and 32f steps count whole samples.
+
+   Checks: zelStatusNullPointer, zelStatusBadStep (a step below 1), then
+   zelStatusBadSize, zelStatusBadMaskSize and zelStatusBadAnchor (an anchor
+   outside the mask); 32f C1R then zelStatusBadStep for a source step below
+   (width + maskSize.width - 1) * 4 or a destination step below width * 4.
+   64f C1R: zelStatusNullPointer, zelStatusBadSize (region or mask),
+   zelStatusBadStep (as 32f C1R, in 8-byte samples); no anchor test.
+   zelStatusMemAlloc when working memory cannot be had (nothing is written).
+
+   Example:
+       Zel8u src[6 * 6], dst[4 * 4];
+       for (int i = 0; i < 6 * 6; ++i) src[i] = (Zel8u)(i * 7);
+       ZeliSize roi = {4, 4}, mask = {3, 3};
+       ZeliPoint anchor = {1, 1};
+       // the 3x3 mean around each pixel of the 4x4 region inside the 6x6 frame
+       ZelStatus st = zeliFilterBox_8u_C1R(src + 6 + 1, 6, dst, 4, roi, mask, anchor); */
+
+/* zeliFilterBox */
+ZELAPI ZelStatus zeliFilterBox_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_C1IR(
+    Zel8u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_C3IR(
+    Zel8u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_C4IR(
+    Zel8u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_AC4IR(
+    Zel8u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_C1IR(
+    Zel16s * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_C3IR(
+    Zel16s * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_C4IR(
+    Zel16s * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_AC4IR(
+    Zel16s * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_C1IR(
+    Zel16u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_C3IR(
+    Zel16u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_C4IR(
+    Zel16u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_AC4IR(
+    Zel16u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_C1IR(
+    Zel32f * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_C3IR(
+    Zel32f * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_C4IR(
+    Zel32f * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_AC4IR(
+    Zel32f * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_64f_C1R(
+    const Zel64f* pSrc, int srcStep, Zel64f* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+
+/* ==== Sliding window sums ===============================================
+
+   zeliSumWindowRow writes the plain sum of maskSize samples along a row,
+   dst(x, y) = sum of src(x - anchor + k, y), k < maskSize, per channel, as
+   32-bit floats; zeliSumWindowColumn the same down a column,
+   dst(x, y) = sum of src(x, y - anchor + k). Sums are exact integers rounded
+   once to float. Nothing pads: the caller keeps the anchor's samples before
+   the region and maskSize - 1 - anchor after it readable. Steps are not
+   checked.
+
+   Checks: zelStatusNullPointer, (zeliSumWindowRow_16u32f only:
+   zelStatusBadSize for a width or height below 1), zelStatusBadMaskSize (a
+   mask below 1), zelStatusBadAnchor (an anchor outside the mask). The others
+   do not test the region: a height or width below 1 writes nothing and gives
+   zelStatusOk. zelStatusMemAlloc when working memory cannot be had.
+
+   Example:
+       Zel8u src[3 + 2] = {1, 2, 3, 4, 5};
+       Zel32f dst[3];
+       ZeliSize roi = {3, 1};
+       // sums of three samples, centred: 6, 9, 12
+       ZelStatus st = zeliSumWindowRow_8u32f_C1R(src + 1, 5, dst, 12, roi, 3, 1); */
+
+/* zeliSumWindowRow */
+ZELAPI ZelStatus zeliSumWindowRow_8u32f_C1R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_8u32f_C3R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_8u32f_C4R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_16u32f_C1R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_16u32f_C3R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_16u32f_C4R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_16s32f_C1R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_16s32f_C3R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_16s32f_C4R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+
+/* zeliSumWindowColumn */
+ZELAPI ZelStatus zeliSumWindowColumn_8u32f_C1R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_8u32f_C3R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_8u32f_C4R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_16u32f_C1R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_16u32f_C3R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_16u32f_C4R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_16s32f_C1R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_16s32f_C3R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_16s32f_C4R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+
 #ifdef __cplusplus
 }
 #endif

@@ -27,6 +27,7 @@
 #include <cstring>
 #include <limits>
 #include <type_traits>
+#include <utility>
 
 #ifndef ZEL_KERNELS
 #error "define ZEL_KERNELS to the family's kernel header before including levels.hpp"

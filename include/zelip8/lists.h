@@ -13,3 +13,5 @@
 #include "zelip8/fn_minmax.h"
 #include "zelip8/fn_norm.h"
 #include "zelip8/fn_hist.h"
+#include "zelip8/fn_filter_box.h"
+#include "zelip8/fn_filter_sumwin.h"

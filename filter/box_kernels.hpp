@@ -1,0 +1,183 @@
+// Running window sums of the box filter and the sliding sums, compiled once
+// per level (read by core/simd/levels.hpp inside each level's namespace;
+// includes nothing).
+//
+// A band of destination rows keeps one column sum a sample of the frame's
+// row (the sum of the mH samples under it) and moves it down a row at a time.
+// A destination row is then the sum of mW column sums a pixel apart, which
+// fin_kernels.hpp turns into samples.
+//
+// Integer sums are exact in 32-bit unsigned lanes (they wrap like the
+// column sums they stand for), so their grouping is free: the column sums
+// enter and leave by running differences from the band's first row, and the
+// horizontal sums are differences of a strided prefix sum (a few vector
+// steps a sample whatever the mask), or a direct sum for narrow masks.
+//
+// Float sums (32f, 64f, and the sliding sums of very long windows in double)
+// are formed in an order fixed by the sample's position alone, the same at
+// every level, thread count and alignment:
+//  - column sums: for mH <= 4 the plain sum of the mH samples, top to bottom;
+//    otherwise a running sum ((c + entering) - leaving) that restarts with a
+//    plain sum at every row that is a multiple of restart_block(mH), so a band
+//    starting anywhere reproduces it by running from the last restart;
+//  - horizontal sums: for mW <= 12 the plain sum of the mW column sums, left
+//    to right; otherwise a running sum ((s + entering) - leaving) per channel
+//    that restarts with a plain sum every 64 pixels from the row's start.
+
+// Column sums of frame row y: col[i] = bias * mH + the mH samples below.
+template <class T, class Acc>
+inline void col_fresh(Acc* col, const T* const* rows, int mH, int nc, Acc bias) {
+    using V = Vec<Acc>;
+    constexpr int L = V::kLanes;
+    int i = 0;
+    for (; i + L <= nc; i += L) {
+        V c = load_as<V>(rows[0] + i) + set1<V>(bias);
+        for (int k = 1; k < mH; ++k) c = c + (load_as<V>(rows[k] + i) + set1<V>(bias));
+        store(col + i, c);
+    }
+    for (; i < nc; ++i) {
+        Acc c = Acc(rows[0][i]) + bias;
+        for (int k = 1; k < mH; ++k) c = c + (Acc(rows[k][i]) + bias);
+        col[i] = c;
+    }
+}
+
+// col[i] = (col[i] + in[i]) - out[i]: the window moves down a row.
+template <class T, class Acc>
+inline void col_move(Acc* col, const T* in, const T* out, int nc) {
+    using V = Vec<Acc>;
+    constexpr int L = V::kLanes;
+    int i = 0;
+    for (; i + L <= nc; i += L) store(col + i, (load<V>(col + i) + load_as<V>(in + i)) - load_as<V>(out + i));
+    for (; i < nc; ++i) col[i] = (col[i] + Acc(in[i])) - Acc(out[i]);
+}
+
+// pre[CH + i] = col[i] + col[i - CH] + ... (pre[0..CH) = 0), over nc samples.
+template <int CH, class Acc>
+inline void strided_prefix(Acc* pre, const Acc* col, int nc) {
+    using V = Vec<Acc>;
+    constexpr int L = V::kLanes;
+    for (int c = 0; c < CH; ++c) pre[c] = 0;
+    V carry = zero<V>();
+    for (int i = 0; i < nc; i += L) {
+        carry = scan_add<CH>(load<V>(col + i)) + repeat_last<CH>(carry);
+        store(pre + CH + i, carry);
+    }
+}
+
+// Horizontal float sums of long windows: per channel, a running sum that
+// restarts every kSegment pixels.
+template <int CH, class Acc>
+inline void row_running(Acc* sums, const Acc* col, int width, int mW) {
+    for (int x0 = 0; x0 < width; x0 += filt::kSegment) {
+        const int x1 = x0 + filt::kSegment < width ? x0 + filt::kSegment : width;
+        for (int c = 0; c < CH; ++c) {
+            Acc s = col[x0 * CH + c];
+            for (int q = 1; q < mW; ++q) s = s + col[(x0 + q) * CH + c];
+            sums[x0 * CH + c] = s;
+            for (int x = x0 + 1; x < x1; ++x) {
+                s = (s + col[(x + mW - 1) * CH + c]) - col[(x - 1) * CH + c];
+                sums[x * CH + c] = s;
+            }
+        }
+    }
+}
+
+// Copies the first n samples of a ring row to the image (AC: alpha stays).
+template <bool AC, class D>
+inline void flush_row(D* img, const D* ring, int n) {
+    using V = Vec<D>;
+    constexpr int L = V::kLanes;
+    for (int i = 0; i < n; i += L) put<AC>(img + i, load<V>(ring + i), n - i);
+}
+
+// Destination rows y0 .. y0 + rows - 1 of a box or sliding sum. The frame of
+// row y starts at frame row y (src is the frame's origin); in place (ring > 0)
+// rows go to a ring of `ring` rows first and reach the image once no later
+// window reads the image row they replace.
+template <class T, class Acc, int CH, Rule R, class D, bool AC>
+void box_rows(const filt::BoxJob& j, const filt::BoxState<Acc, D>& st, int y0, int rows) {
+    using V = Vec<Acc>;
+    constexpr bool flt = std::is_floating_point<Acc>::value;
+    const int n = j.width * CH, nc = (j.width + j.mW - 1) * CH, mW = j.mW, mH = j.mH;
+    const Acc bias = Acc(j.bias);
+    const T* src = static_cast<const T*>(j.src);
+    D* dst = static_cast<D*>(j.dst);
+    auto frow = [&](int y) { return row(src, j.srcStep, y); };
+    // Plain column sums of frame row y: up to kFreshRows rows at once, the
+    // rest added one row at a time (the same order as one plain sum).
+    auto start = [&](int y) {
+        const T* rs[filt::kFreshRows];
+        const int k = mH < filt::kFreshRows ? mH : filt::kFreshRows;
+        for (int q = 0; q < k; ++q) rs[q] = frow(y + q);
+        col_fresh<T, Acc>(st.col, rs, k, nc, bias);
+        for (int q = k; q < mH; ++q) {
+            const T* r = frow(y + q);
+            int i = 0;
+            for (; i + V::kLanes <= nc; i += V::kLanes)
+                store(st.col + i, load<V>(st.col + i) + (load_as<V>(r + i) + set1<V>(bias)));
+            for (; i < nc; ++i) st.col[i] = st.col[i] + (Acc(r[i]) + bias);
+        }
+    };
+    const bool freshEach = flt ? mH <= filt::kFreshHFloat : mH <= filt::kFreshHInt;
+    const int blk = flt ? filt::restart_block(mH) : 0;
+    if (!freshEach) {
+        int yb = y0;
+        if (flt) yb = y0 - y0 % blk;
+        start(yb);
+        for (int y = yb; y < y0; ++y) col_move<T, Acc>(st.col, frow(y + mH), frow(y), nc);
+    }
+    const int ring = j.ringRows;
+    // Into the image with its alpha kept, or into the ring (alpha is kept on the way out).
+    auto emit = [&](D* out, auto&& sum) {
+        if (ring) finish_row<R, D, false, V>(out, n, j.fin, sum);
+        else finish_row<R, D, AC, V>(out, n, j.fin, sum);
+    };
+    for (int y = y0; y < y0 + rows; ++y) {
+        if (freshEach) start(y);
+        else if (y > y0) {
+            if (flt && y % blk == 0) start(y);
+            else col_move<T, Acc>(st.col, frow(y - 1 + mH), frow(y - 1), nc);
+        }
+        D* out;
+        if (ring) {
+            if (y - ring >= 0) flush_row<AC>(row(dst, j.dstStep, y - ring), st.ring + std::size_t((y - ring) % ring) * j.ringStride, n);
+            out = st.ring + std::size_t(y % ring) * j.ringStride;
+        } else {
+            out = row(dst, j.dstStep, y);
+        }
+        const Acc* col = st.col;
+        if constexpr (flt && !std::is_same<D, Acc>::value) {
+            // double sums of integer samples (exact) to float, one sample at a time
+            if (mW <= filt::kFreshWFloat) {
+                for (int i = 0; i < n; ++i) {
+                    Acc s = col[i];
+                    for (int q = 1; q < mW; ++q) s = s + col[i + q * CH];
+                    out[i] = D(s);
+                }
+            } else {
+                row_running<CH, Acc>(st.sums, col, j.width, mW);
+                for (int i = 0; i < n; ++i) out[i] = D(st.sums[i]);
+            }
+        } else if (flt ? mW <= filt::kFreshWFloat : mW <= filt::kFreshW) {
+            emit(out, [&](int i) {
+                V s = load<V>(col + i);
+                for (int q = 1; q < mW; ++q) s = s + load<V>(col + i + q * CH);
+                return s;
+            });
+        } else if constexpr (flt) {
+            row_running<CH, Acc>(st.sums, col, j.width, mW);
+            emit(out, [&](int i) { return load<V>(st.sums + i); });
+        } else {
+            strided_prefix<CH>(st.pre, col, nc);
+            const Acc* pre = st.pre;
+            const int far = mW * CH;
+            emit(out, [&](int i) { return load<V>(pre + i + far) - load<V>(pre + i); });
+        }
+    }
+    if (ring) {
+        const int last = y0 + rows;
+        for (int y = last - ring < y0 ? y0 : last - ring; y < last; ++y)
+            flush_row<AC>(row(dst, j.dstStep, y), st.ring + std::size_t(y % ring) * j.ringStride, n);
+    }
+}

@@ -160,19 +160,19 @@ void box_rows(const filt::BoxJob& j, const filt::BoxState<Acc, D>& st, int y0, i
                 for (int i = 0; i < n; ++i) out[i] = D(st.sums[i]);
             }
         } else if (flt ? mW <= filt::kFreshWFloat : mW <= filt::kFreshW) {
-            emit(out, [&](int i) {
+            emit(out, [&](int i) __attribute__((always_inline)) {
                 V s = load<V>(col + i);
                 for (int q = 1; q < mW; ++q) s = s + load<V>(col + i + q * CH);
                 return s;
             });
         } else if constexpr (flt) {
             row_running<CH, Acc>(st.sums, col, j.width, mW);
-            emit(out, [&](int i) { return load<V>(st.sums + i); });
+            emit(out, [&](int i) __attribute__((always_inline)) { return load<V>(st.sums + i); });
         } else {
             strided_prefix<CH>(st.pre, col, nc);
             const Acc* pre = st.pre;
             const int far = mW * CH;
-            emit(out, [&](int i) { return load<V>(pre + i + far) - load<V>(pre + i); });
+            emit(out, [&](int i) __attribute__((always_inline)) { return load<V>(pre + i + far) - load<V>(pre + i); });
         }
     }
     if (ring) {

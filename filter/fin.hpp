@@ -11,6 +11,12 @@
 #include <limits>
 #include <type_traits>
 
+// Kernel helpers that take or return whole vectors are always inlined: GCC 12
+// may give an out-of-line instance of such a template, compiled under a
+// wider target pragma, a vzeroupper before its ret that clears the upper
+// half of a 256- or 512-bit result.
+#define ZEL_VINLINE inline __attribute__((always_inline))
+
 namespace zel {
 namespace filt {
 
@@ -47,7 +53,7 @@ struct FinP {
 };
 
 // The divisor's class by the test (d - 1) & (d | sign bit), zero for powers of two.
-inline FinP divisor(int d) {
+inline FinP divisor_of(int d) {
     FinP p;
     p.d = d;
     const std::uint32_t u = std::uint32_t(d);

@@ -17,7 +17,7 @@ using filt::kDivPow2;
 // Unsigned 32-bit lanes to float, correctly rounded at every width: values
 // from 2^31 are halved with their lowest bit kept as a sticky bit first.
 template <int B>
-inline Vec<float, B> u32_to_float(Vec<std::uint32_t, B> s) {
+ZEL_VINLINE Vec<float, B> u32_to_float(Vec<std::uint32_t, B> s) {
     using I = Vec<std::int32_t, B>;
     using F = Vec<float, B>;
     const I big = lt(bitcast<std::int32_t>(s), zero<I>());
@@ -29,7 +29,7 @@ inline Vec<float, B> u32_to_float(Vec<std::uint32_t, B> s) {
 
 // Float lanes rounded by mode 0 (towards zero), 1 (ties to even), 2 (ties away).
 template <class V>
-inline V round_mode(V y, int mode) {
+ZEL_VINLINE V round_mode(V y, int mode) {
     if (mode == 0) return round_to<_MM_FROUND_TO_ZERO>(y);
     if (mode == 1) return round_to<_MM_FROUND_TO_NEAREST_INT>(y);
     using T = typename V::Lane;
@@ -40,7 +40,7 @@ inline V round_mode(V y, int mode) {
 
 // Float lanes clamped to D's range (NaN gives the minimum) and rounded by mode.
 template <class D, class V>
-inline V clamp_round(V y, int mode) {
+ZEL_VINLINE V clamp_round(V y, int mode) {
     using T = typename V::Lane;
     const V lo = set1<V>(T(std::numeric_limits<D>::min())), hi = set1<V>(T(std::numeric_limits<D>::max()));
     return round_mode(min(max(y, lo), hi), mode);
@@ -48,13 +48,13 @@ inline V clamp_round(V y, int mode) {
 
 // Integral double lanes of a split 32-bit vector back into one 32-bit vector.
 template <int B>
-inline Vec<std::int32_t, B> join_ints(Vec<double, B> lo, Vec<double, B> hi) {
+ZEL_VINLINE Vec<std::int32_t, B> join_ints(Vec<double, B> lo, Vec<double, B> hi) {
     return join_halves(convert<std::int32_t>(lo), convert<std::int32_t>(hi));
 }
 
 // s / 2^k rounded by mode (k >= 1) for signed 32-bit lanes.
 template <int B>
-inline Vec<std::int32_t, B> shift_round(Vec<std::int32_t, B> s, int k, int mode) {
+ZEL_VINLINE Vec<std::int32_t, B> shift_round(Vec<std::int32_t, B> s, int k, int mode) {
     using I = Vec<std::int32_t, B>;
     using U = Vec<std::uint32_t, B>;
     const I q = shr(s, k);
@@ -71,7 +71,7 @@ inline Vec<std::int32_t, B> shift_round(Vec<std::int32_t, B> s, int k, int mode)
 
 // One vector of sums s (lanes k, k + 1, ... of the row) to results for D.
 template <Rule R, class D, class V>
-inline auto fin(const FinP& p, V s, int k) {
+ZEL_VINLINE auto fin(const FinP& p, V s, int k) {
     constexpr int B = V::kWidth;
     using I = Vec<std::int32_t, B>;
     using U = Vec<std::uint32_t, B>;
@@ -106,7 +106,7 @@ inline auto fin(const FinP& p, V s, int k) {
             // exact quotients in double: truncated, or rounded by mode
             using Dv = Vec<double, B>;
             const Dv dd = set1<Dv>(double(p.d));
-            auto one = [&](Dv y) { return mode == 0 ? round_to<_MM_FROUND_TO_ZERO>(y / dd) : clamp_round<D>(y / dd, mode); };
+            auto one = [&](Dv y) __attribute__((always_inline)) { return mode == 0 ? round_to<_MM_FROUND_TO_ZERO>(y / dd) : clamp_round<D>(y / dd, mode); };
             return join_ints(one(convert<double>(half_lo(v))), one(convert<double>(half_hi(v))));
         }
         return trunc_int(clamp_round<D>(to_float(v) * set1<F>(p.f), mode));
@@ -116,7 +116,7 @@ inline auto fin(const FinP& p, V s, int k) {
             return s;
         } else if constexpr (std::is_same<D, std::int32_t>::value) {
             const I r = trunc_int(round_mode(s, mode));
-            return select(ge(s, set1<F>(2147483648.0f)), set1<I>(std::numeric_limits<std::int32_t>::max()), r);
+            return select(bitcast<std::int32_t>(ge(s, set1<F>(2147483648.0f))), set1<I>(std::numeric_limits<std::int32_t>::max()), r);
         } else {
             return trunc_int(clamp_round<D>(s, mode));
         }
@@ -127,7 +127,7 @@ inline auto fin(const FinP& p, V s, int k) {
 
 // Lanes of a destination vector that hold alpha: every fourth sample.
 template <class V>
-inline V alpha_lanes() {
+ZEL_VINLINE V alpha_lanes() {
     using I = typename IntOfSize<sizeof(typename V::Lane)>::type;
     typename RawOf<I, V::kWidth>::type m;
     for (int i = 0; i < V::kLanes; ++i) m[i] = (i & 3) == 3 ? I(-1) : I(0);
@@ -137,7 +137,7 @@ inline V alpha_lanes() {
 // Stores the first n lanes of v (all when n >= lanes); with AC the alpha
 // lanes keep the destination's samples.
 template <bool AC, class T, int B>
-inline void put(T* p, Vec<T, B> v, int n) {
+ZEL_VINLINE void put(T* p, Vec<T, B> v, int n) {
     using V = Vec<T, B>;
     if (n >= V::kLanes) {
         if constexpr (AC) v = select(alpha_lanes<V>(), load<V>(p), v);

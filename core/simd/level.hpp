@@ -15,6 +15,7 @@ namespace avx2 {
 // registers, which its uninitialised-use analysis reports once inlined.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#pragma GCC diagnostic ignored "-Wuninitialized"
 namespace zel {
 namespace avx512 {
 #else

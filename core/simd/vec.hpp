@@ -531,8 +531,11 @@ inline T reduce_add(Vec<T, B> a) {
 // Integer prefix sums within a vector (the horizontal sums of the box filter)
 // and the double-precision rounding of the filters' quotients. The lane moves
 // are compile-time shuffles; the compiler picks the instructions per width.
+// They are always inlined: GCC 12 may end an out-of-line instance of a
+// function returning a 256- or 512-bit vector with a vzeroupper that clears
+// the upper half of its result.
 template <class T, int B, int... I>
-inline Vec<T, B> shuffle_lanes(Vec<T, B> a, Vec<T, B> b, std::integer_sequence<int, I...>) {
+inline __attribute__((always_inline)) Vec<T, B> shuffle_lanes(Vec<T, B> a, Vec<T, B> b, std::integer_sequence<int, I...>) {
     return Vec<T, B>{__builtin_shufflevector(a.v, b.v, I...)};
 }
 template <int N, int L, int... I>
@@ -546,7 +549,7 @@ constexpr auto repeat_last_index(std::integer_sequence<int, I...>) {
 
 // Lanes moved up by N places: lane i takes lane i - N, the first N lanes are 0.
 template <int N, class T, int B>
-inline Vec<T, B> shift_up(Vec<T, B> a) {
+inline __attribute__((always_inline)) Vec<T, B> shift_up(Vec<T, B> a) {
     constexpr int L = Vec<T, B>::kLanes;
     if constexpr (N >= L) return zero<Vec<T, B>>();
     else return shuffle_lanes(a, zero<Vec<T, B>>(), shift_up_index<N, L>(std::make_integer_sequence<int, L>{}));
@@ -554,7 +557,7 @@ inline Vec<T, B> shift_up(Vec<T, B> a) {
 
 // The last C lanes repeated by residue: lane i takes lane L - C + i % C (C <= L).
 template <int C, class T, int B>
-inline Vec<T, B> repeat_last(Vec<T, B> a) {
+inline __attribute__((always_inline)) Vec<T, B> repeat_last(Vec<T, B> a) {
     constexpr int L = Vec<T, B>::kLanes;
     static_assert(C <= L, "at most the lane count");
     return shuffle_lanes(a, a, repeat_last_index<C, L>(std::make_integer_sequence<int, L>{}));
@@ -563,7 +566,7 @@ inline Vec<T, B> repeat_last(Vec<T, B> a) {
 // Inclusive prefix sum with stride C: lane i holds a[i] + a[i - C] + a[i - 2C] + ...
 // Integer lanes only (wrapping): a float sum would depend on the grouping.
 template <int C, int S = C, class T, int B>
-inline Vec<T, B> scan_add(Vec<T, B> a) {
+inline __attribute__((always_inline)) Vec<T, B> scan_add(Vec<T, B> a) {
     static_assert(std::is_integral<T>::value, "integer lanes");
     if constexpr (S >= Vec<T, B>::kLanes) return a;
     else return scan_add<C, 2 * S>(a + shift_up<S>(a));
@@ -571,19 +574,19 @@ inline Vec<T, B> scan_add(Vec<T, B> a) {
 
 // The low or the high half of a vector's lanes, and two halves joined.
 template <class T, int B>
-inline Vec<T, B / 2> half_lo(Vec<T, B> a) {
+inline __attribute__((always_inline)) Vec<T, B / 2> half_lo(Vec<T, B> a) {
     Vec<T, B / 2> h;
     __builtin_memcpy(&h.v, &a.v, B / 2);
     return h;
 }
 template <class T, int B>
-inline Vec<T, B / 2> half_hi(Vec<T, B> a) {
+inline __attribute__((always_inline)) Vec<T, B / 2> half_hi(Vec<T, B> a) {
     Vec<T, B / 2> h;
     __builtin_memcpy(&h.v, reinterpret_cast<const char*>(&a.v) + B / 2, B / 2);
     return h;
 }
 template <class T, int B>
-inline Vec<T, 2 * B> join_halves(Vec<T, B> lo, Vec<T, B> hi) {
+inline __attribute__((always_inline)) Vec<T, 2 * B> join_halves(Vec<T, B> lo, Vec<T, B> hi) {
     Vec<T, 2 * B> r;
     __builtin_memcpy(&r.v, &lo.v, B);
     __builtin_memcpy(reinterpret_cast<char*>(&r.v) + B, &hi.v, B);
@@ -592,7 +595,7 @@ inline Vec<T, 2 * B> join_halves(Vec<T, B> lo, Vec<T, B> hi) {
 
 // Rounding of double lanes to integral values by a fixed mode (as round_to).
 template <int Mode, int B>
-inline Vec<double, B> round_to(Vec<double, B> a) {
+inline __attribute__((always_inline)) Vec<double, B> round_to(Vec<double, B> a) {
     if constexpr (B == 16) return wrap<double, B>(_mm_round_pd(rd(a), Mode | _MM_FROUND_NO_EXC));
     else if constexpr (B == 32) return wrap<double, B>(_mm256_round_pd(rd(a), Mode | _MM_FROUND_NO_EXC));
     else return wrap<double, B>(_mm512_roundscale_pd(rd(a), Mode | _MM_FROUND_NO_EXC));

@@ -38,17 +38,18 @@ struct BoxJob {
     std::size_t ringStride = 0; // samples between ring rows
 };
 
-// One worker's state: column sums, their prefix sums, row sums, the ring.
+// One worker's state: column sums, row sums, the ring.
 template <class Acc, class D>
 struct BoxState {
     Acc* col = nullptr;
-    Acc* pre = nullptr;
     Acc* sums = nullptr;
     D* ring = nullptr;
 };
 
-// Room a block of four vectors may read or write past a row's end.
+// Room a block of four vectors may read or write past a row's end, and the
+// zero samples kept before the column sums.
 constexpr std::size_t kPadBytes = 256;
+constexpr std::size_t kFront = 16;
 
 template <class Acc, class D>
 inline BoxState<Acc, D> lay_box(Carve& c, const BoxJob& j, int ch) {
@@ -56,14 +57,14 @@ inline BoxState<Acc, D> lay_box(Carve& c, const BoxJob& j, int ch) {
     const unsigned long long cap = std::size_t(-1) / 4; // larger counts fail the carve
     auto cnt = [&](unsigned long long v) { return std::size_t(v < cap ? v : cap); };
     BoxState<Acc, D> st;
-    st.col = c.take<Acc>(cnt(nc + pad), 64);
-    st.pre = c.take<Acc>(cnt(nc + ch + pad), 64);
+    // kFront zero samples before the column sums: the running row sums read col[i - ch]
+    st.col = c.take<Acc>(cnt(nc + pad + kFront), 64);
+    if (st.col) st.col += kFront;
     st.sums = c.take<Acc>(cnt((unsigned long long)j.width * ch + pad), 64);
     if (j.ringRows) st.ring = c.take<D>(cnt((unsigned long long)j.ringRows * j.ringStride), 64);
     if (st.col && c.ok()) {
         // the pads are read as whole vectors: keep them defined
-        std::memset(st.col, 0, cnt(nc + pad) * sizeof(Acc));
-        std::memset(st.pre, 0, cnt(nc + ch + pad) * sizeof(Acc));
+        std::memset(st.col - kFront, 0, cnt(nc + pad + kFront) * sizeof(Acc));
         std::memset(st.sums, 0, cnt((unsigned long long)j.width * ch + pad) * sizeof(Acc));
     }
     return st;

@@ -10,8 +10,9 @@
 // Integer sums are exact in 32-bit unsigned lanes (they wrap like the
 // column sums they stand for), so their grouping is free: the column sums
 // enter and leave by running differences from the band's first row, and the
-// horizontal sums are differences of a strided prefix sum (a few vector
-// steps a sample whatever the mask), or a direct sum for narrow masks.
+// horizontal sums run along the row by differences, a vector at a time
+// through a strided prefix sum (a few vector steps a sample whatever the
+// mask), or are direct sums for narrow masks.
 //
 // Float sums (32f, 64f, and the sliding sums of very long windows in double)
 // are formed in an order fixed by the sample's position alone, the same at
@@ -31,8 +32,8 @@ inline void col_fresh(Acc* col, const T* const* rows, int mH, int nc, Acc bias) 
     constexpr int L = V::kLanes;
     int i = 0;
     for (; i + L <= nc; i += L) {
-        V c = load_as<V>(rows[0] + i) + set1<V>(bias);
-        for (int k = 1; k < mH; ++k) c = c + (load_as<V>(rows[k] + i) + set1<V>(bias));
+        V c = load_conv<V>(rows[0] + i) + set1<V>(bias);
+        for (int k = 1; k < mH; ++k) c = c + (load_conv<V>(rows[k] + i) + set1<V>(bias));
         store(col + i, c);
     }
     for (; i < nc; ++i) {
@@ -48,21 +49,8 @@ inline void col_move(Acc* col, const T* in, const T* out, int nc) {
     using V = Vec<Acc>;
     constexpr int L = V::kLanes;
     int i = 0;
-    for (; i + L <= nc; i += L) store(col + i, (load<V>(col + i) + load_as<V>(in + i)) - load_as<V>(out + i));
+    for (; i + L <= nc; i += L) store(col + i, (load<V>(col + i) + load_conv<V>(in + i)) - load_conv<V>(out + i));
     for (; i < nc; ++i) col[i] = (col[i] + Acc(in[i])) - Acc(out[i]);
-}
-
-// pre[CH + i] = col[i] + col[i - CH] + ... (pre[0..CH) = 0), over nc samples.
-template <int CH, class Acc>
-inline void strided_prefix(Acc* pre, const Acc* col, int nc) {
-    using V = Vec<Acc>;
-    constexpr int L = V::kLanes;
-    for (int c = 0; c < CH; ++c) pre[c] = 0;
-    V carry = zero<V>();
-    for (int i = 0; i < nc; i += L) {
-        carry = scan_add<CH>(load<V>(col + i)) + repeat_last<CH>(carry);
-        store(pre + CH + i, carry);
-    }
 }
 
 // Horizontal float sums of long windows: per channel, a running sum that
@@ -115,7 +103,7 @@ void box_rows(const filt::BoxJob& j, const filt::BoxState<Acc, D>& st, int y0, i
             const T* r = frow(y + q);
             int i = 0;
             for (; i + V::kLanes <= nc; i += V::kLanes)
-                store(st.col + i, load<V>(st.col + i) + (load_as<V>(r + i) + set1<V>(bias)));
+                store(st.col + i, load<V>(st.col + i) + (load_conv<V>(r + i) + set1<V>(bias)));
             for (; i < nc; ++i) st.col[i] = st.col[i] + (Acc(r[i]) + bias);
         }
     };
@@ -169,10 +157,18 @@ void box_rows(const filt::BoxJob& j, const filt::BoxState<Acc, D>& st, int y0, i
             row_running<CH, Acc>(st.sums, col, j.width, mW);
             emit(out, [&](int i) __attribute__((always_inline)) { return load<V>(st.sums + i); });
         } else {
-            strided_prefix<CH>(st.pre, col, nc);
-            const Acc* pre = st.pre;
-            const int far = mW * CH;
-            emit(out, [&](int i) __attribute__((always_inline)) { return load<V>(pre + i + far) - load<V>(pre + i); });
+            // S(x) = S(x - CH) + col[x + (mW - 1) CH] - col[x - CH], in vectors by a
+            // strided prefix sum of the differences; col[-CH..-1] reads 0, so the
+            // sums before the row, S(-CH..-1), are the mW - 1 column sums after them.
+            alignas(64) Acc first[V::kLanes] = {};
+            for (int c = 0; c < CH; ++c)
+                for (int q = 1; q < mW; ++q) first[V::kLanes - CH + c] += col[c - CH + q * CH];
+            V carry = load<V>(first);
+            const int far = (mW - 1) * CH;
+            emit(out, [&](int i) __attribute__((always_inline)) {
+                carry = scan_add<CH>(load<V>(col + i + far) - load<V>(col + i - CH)) + repeat_last<CH>(carry);
+                return carry;
+            });
         }
     }
     if (ring) {

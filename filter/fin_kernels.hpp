@@ -14,6 +14,14 @@ using filt::Rule;
 using filt::kDivOne;
 using filt::kDivPow2;
 
+// V::kLanes samples of T converted by value to V's lanes: a widening load for
+// 8- and 16-bit samples into 32-bit lanes.
+template <class V, class T>
+ZEL_VINLINE V load_conv(const T* p) {
+    if constexpr (sizeof(T) <= 2 && sizeof(typename V::Lane) == 4) return load_widen<V>(p);
+    else return load_as<V>(p);
+}
+
 // Unsigned 32-bit lanes to float, correctly rounded at every width: values
 // from 2^31 are halved with their lowest bit kept as a sticky bit first.
 template <int B>

@@ -19,21 +19,26 @@ inline void lin_block(Vec<Acc> (&acc)[4], const filt::LinJob& j, const In* base,
     using V = Vec<Acc>;
     const Tap* taps = static_cast<const Tap*>(j.taps);
     const std::ptrdiff_t ch = j.ch;
+    // four accumulators in registers (an array here would live in memory)
+    V a0, a1, a2, a3;
     for (int jj = 0; jj < j.kH; ++jj) {
         const In* r = row(base, j.srcStep, j.aY - jj) + std::ptrdiff_t(j.aX) * ch + k;
         const Tap* t = taps + std::size_t(jj) * j.kW;
         int ii = 0;
         if (jj == 0) {
             const V tv = set1<V>(Acc(t[0]));
-            for (int u = 0; u < 4; ++u) acc[u] = tv * load_as<V>(r + u * L);
+            a0 = tv * load_conv<V>(r), a1 = tv * load_conv<V>(r + L);
+            a2 = tv * load_conv<V>(r + 2 * L), a3 = tv * load_conv<V>(r + 3 * L);
             ii = 1;
         }
         for (; ii < j.kW; ++ii) {
             const In* p = r - ii * ch;
             const V tv = set1<V>(Acc(t[ii]));
-            for (int u = 0; u < 4; ++u) acc[u] = acc[u] + tv * load_as<V>(p + u * L);
+            a0 = a0 + tv * load_conv<V>(p), a1 = a1 + tv * load_conv<V>(p + L);
+            a2 = a2 + tv * load_conv<V>(p + 2 * L), a3 = a3 + tv * load_conv<V>(p + 3 * L);
         }
     }
+    acc[0] = a0, acc[1] = a1, acc[2] = a2, acc[3] = a3;
 }
 
 // The same sums one sample at a time, for the n samples of a short row.

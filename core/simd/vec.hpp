@@ -600,3 +600,44 @@ inline __attribute__((always_inline)) Vec<double, B> round_to(Vec<double, B> a) 
     else if constexpr (B == 32) return wrap<double, B>(_mm256_round_pd(rd(a), Mode | _MM_FROUND_NO_EXC));
     else return wrap<double, B>(_mm512_roundscale_pd(rd(a), Mode | _MM_FROUND_NO_EXC));
 }
+
+// V::kLanes samples of 8- or 16-bit T loaded and widened by value to V's
+// 32-bit lanes (integer, or float through a 32-bit integer): one widening
+// load per width, where a generic conversion of a whole vector of bytes may
+// become one instruction a lane.
+template <class V, class T>
+inline __attribute__((always_inline)) V load_widen(const T* p) {
+    using L = typename V::Lane;
+    constexpr int B = V::kWidth;
+    static_assert(sizeof(L) == 4 && sizeof(T) <= 2, "8- or 16-bit samples to 32-bit lanes");
+    constexpr bool s = std::is_signed<T>::value;
+    typename Reg<B>::i r;
+    if constexpr (sizeof(T) == 1) {
+        if constexpr (B == 16) {
+            std::int32_t w;
+            __builtin_memcpy(&w, p, 4);
+            const __m128i x = _mm_cvtsi32_si128(w);
+            r = s ? _mm_cvtepi8_epi32(x) : _mm_cvtepu8_epi32(x);
+        } else if constexpr (B == 32) {
+            const __m128i x = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+            r = s ? _mm256_cvtepi8_epi32(x) : _mm256_cvtepu8_epi32(x);
+        } else {
+            const __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+            r = s ? _mm512_cvtepi8_epi32(x) : _mm512_cvtepu8_epi32(x);
+        }
+    } else {
+        if constexpr (B == 16) {
+            const __m128i x = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+            r = s ? _mm_cvtepi16_epi32(x) : _mm_cvtepu16_epi32(x);
+        } else if constexpr (B == 32) {
+            const __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+            r = s ? _mm256_cvtepi16_epi32(x) : _mm256_cvtepu16_epi32(x);
+        } else {
+            const __m256i x = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p));
+            r = s ? _mm512_cvtepi16_epi32(x) : _mm512_cvtepu16_epi32(x);
+        }
+    }
+    const Vec<std::int32_t, B> i = wrap<std::int32_t, B>(r);
+    if constexpr (std::is_floating_point<L>::value) return to_float(i);
+    else return bitcast<L>(i);
+}

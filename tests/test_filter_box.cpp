@@ -4,6 +4,7 @@
 // widths around the vector blocks, heights around the in-place copy route and
 // the thread gate, on sources that are exactly the frame the mask and anchor
 // need (a read one pixel beyond it traps), at one and two threads.
+#include "filter/frame.hpp"
 #include "members.hpp"
 
 #include <gtest/gtest.h>
@@ -311,4 +312,54 @@ TEST(FilterBox, StatedValuesAndChecks) {
     EXPECT_EQ(zeliSumWindowRow_16u32f_C1R(s16, 4, d, 16, {1, 0}, 2, 0), zelStatusBadSize);
     EXPECT_EQ(zeliSumWindowColumn_8u32f_C1R(s8, 4, d, 16, {1, 1}, 0, 0), zelStatusBadMaskSize);
     EXPECT_EQ(zeliSumWindowColumn_8u32f_C1R(s8, 4, d, 16, {1, 1}, 2, 2), zelStatusBadAnchor);
+}
+
+// The neighbourhood frame the filter families share: bands of height / team
+// rows with the remainder on the last thread, one state a thread carved from
+// one block (or from slices of a caller's buffer), and a refused block that
+// runs nothing.
+TEST(NeighbourhoodFrame, BandsStatesAndBuffers) {
+    using namespace zel::filt;
+    EXPECT_EQ(frame_origin(reinterpret_cast<const Zel8u*>(1000), 100, box_margins({5, 3}, {1, 2}), 3),
+              reinterpret_cast<const Zel8u*>(1000 - 200 - 3));
+    const Margins k = kernel_margins({5, 3}, {1, 2});
+    EXPECT_EQ(k.left + k.top * 10 + k.right * 100 + k.bottom * 1000, 3 + 0 + 100 + 2000);
+    zelSetNumThreads(2);
+    for (int height : {1, 5, 64, 99}) {
+        std::vector<int> owner(height, -1);
+        std::vector<std::uintptr_t> states(2, 0);
+        const ZelStatus st = run_bands(
+            height, 2, [&](zel::Carve& c) { return c.take<double>(37, 64); },
+            [&](int first, int rows, double* s) {
+                const int t = omp_get_thread_num();
+                states[t] = reinterpret_cast<std::uintptr_t>(s);
+                for (int r = first; r < first + rows; ++r) owner[r] = t;
+            });
+        ASSERT_EQ(st, zelStatusOk);
+        for (int r = 0; r < height; ++r) ASSERT_GE(owner[r], 0) << height;
+        if (height >= 2 && states[1]) {
+            EXPECT_EQ(owner[height / 2 - 1], 0);
+            EXPECT_EQ(owner[height - 1], 1);
+            EXPECT_EQ(states[0] % 64, 0u);
+            EXPECT_NE(states[0], states[1]);
+        }
+    }
+    // a state that cannot be had: nothing runs
+    bool ran = false;
+    EXPECT_EQ(run_bands(10, 2, [](zel::Carve& c) { return c.take<char>(std::size_t(-1) / 2); }, [&](int, int, char*) { ran = true; }),
+              zelStatusMemAlloc);
+    EXPECT_FALSE(ran);
+    // slices of a caller's buffer: distinct, inside it, never more threads than slices
+    std::vector<char> buf(4 * 256 + 64);
+    std::vector<char*> seen;
+    run_bands_in(buf.data(), 256, 4, 50, 8, [](zel::Carve& c) { return c.take<char>(200, 16); },
+                 [&](int, int, char* s) {
+#pragma omp critical
+                     seen.push_back(s);
+                 });
+    for (char* s : seen) {
+        EXPECT_GE(s, buf.data());
+        EXPECT_LE(s + 200, buf.data() + buf.size());
+    }
+    zelSetNumThreads(0);
 }

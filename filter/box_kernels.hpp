@@ -26,19 +26,23 @@
 //    that restarts with a plain sum every 64 pixels from the row's start.
 
 // Column sums of frame row y: col[i] = bias * mH + the mH samples below.
+// (Float sums take no bias: adding 0 would turn -0 into +0.)
 template <class T, class Acc>
 inline void col_fresh(Acc* col, const T* const* rows, int mH, int nc, Acc bias) {
     using V = Vec<Acc>;
     constexpr int L = V::kLanes;
+    constexpr bool biased = !std::is_floating_point<Acc>::value;
     int i = 0;
     for (; i + L <= nc; i += L) {
-        V c = load_conv<V>(rows[0] + i) + set1<V>(bias);
-        for (int k = 1; k < mH; ++k) c = c + (load_conv<V>(rows[k] + i) + set1<V>(bias));
+        V c = load_conv<V>(rows[0] + i);
+        if constexpr (biased) c = c + set1<V>(Acc(bias * Acc(mH)));
+        for (int k = 1; k < mH; ++k) c = c + load_conv<V>(rows[k] + i);
         store(col + i, c);
     }
     for (; i < nc; ++i) {
-        Acc c = Acc(rows[0][i]) + bias;
-        for (int k = 1; k < mH; ++k) c = c + (Acc(rows[k][i]) + bias);
+        Acc c = Acc(rows[0][i]);
+        if constexpr (biased) c = c + Acc(bias * Acc(mH));
+        for (int k = 1; k < mH; ++k) c = c + Acc(rows[k][i]);
         col[i] = c;
     }
 }
@@ -102,9 +106,13 @@ void box_rows(const filt::BoxJob& j, const filt::BoxState<Acc, D>& st, int y0, i
         for (int q = k; q < mH; ++q) {
             const T* r = frow(y + q);
             int i = 0;
-            for (; i + V::kLanes <= nc; i += V::kLanes)
-                store(st.col + i, load<V>(st.col + i) + (load_conv<V>(r + i) + set1<V>(bias)));
-            for (; i < nc; ++i) st.col[i] = st.col[i] + (Acc(r[i]) + bias);
+            const V b = set1<V>(bias); // 0 for float sums, which take no bias
+            for (; i + V::kLanes <= nc; i += V::kLanes) {
+                V x = load_conv<V>(r + i);
+                if constexpr (!flt) x = x + b;
+                store(st.col + i, load<V>(st.col + i) + x);
+            }
+            for (; i < nc; ++i) st.col[i] = st.col[i] + (flt ? Acc(r[i]) : Acc(Acc(r[i]) + bias));
         }
     };
     const bool freshEach = flt ? mH <= filt::kFreshHFloat : mH <= filt::kFreshHInt;

@@ -286,6 +286,11 @@ TEST(FilterBox, StatedValuesAndChecks) {
     Zel16s m1[9] = {-1, -1, -1, -1, -1, -1, -1, -1, -1}, o16 = 0;
     ASSERT_EQ(zeliFilterBox_16s_C1R(m1, 6, &o16, 2, {1, 1}, {3, 3}, {0, 0}), zelStatusOk);
     EXPECT_EQ(o16, -1);
+    // a 1x1 mask copies floats bit for bit: -0 and a quiet NaN's payload stay
+    std::uint32_t bits[6] = {0x80000000u, 0x3fc00000u, 0x7fc01234u, 0x80000000u, 0x40000000u, 0xffc00001u}, out[6] = {};
+    ASSERT_EQ(zeliFilterBox_32f_C3R(reinterpret_cast<Zel32f*>(bits), 24, reinterpret_cast<Zel32f*>(out), 24, {2, 1}, {1, 1}, {0, 0}),
+              zelStatusOk);
+    EXPECT_EQ(std::memcmp(bits, out, sizeof bits), 0);
     // order of checks: null, step, size, mask, anchor
     Zel8u p[16] = {};
     EXPECT_EQ(zeliFilterBox_8u_C1R(nullptr, 0, p, 0, {0, 0}, {0, 0}, {-1, -1}), zelStatusNullPointer);

@@ -79,6 +79,12 @@ ZelStatus filter_int(const T* src, int ss, T* dst, int ds, ZeliSize roi, const Z
     LinJob j = geom_job(src, ss, dst, ds, g, CH, kernel);
     j.fin = divisor_of(divisor);
     const int team = team_if(size_gate(roi));
+    if (std::is_same<T, Zel8u>::value) {
+        const TapPairs pairs(j, kernel);
+        if (!pairs.ok) return zelStatusMemAlloc;
+        lin_run<T, Zel32s, std::uint32_t, Rule::Div, T, L == AC4>(j, roi.height, team);
+        return zelStatusOk;
+    }
     if (std::is_same<T, Zel16s>::value && tap_weight(kernel, taps_of(ks)) >= 65536)
         lin_run_i64<T, Zel32s, T, L == AC4>(j, Rule::Div, roi.height, team);
     else
@@ -89,7 +95,7 @@ ZelStatus filter_int(const T* src, int ss, T* dst, int ds, ZeliSize roi, const Z
 // The caller's buffer of the Round and 64f forms: the taps in the sum's type,
 // laid out once at its first aligned byte and read by the whole team.
 template <class A, class K>
-inline const A* lay_taps(Zel8u* buffer, const K* kernel, long long count) {
+inline A* lay_taps(Zel8u* buffer, const K* kernel, long long count) {
     A* t = align_ptr(reinterpret_cast<A*>(buffer), 16);
     for (long long i = 0; i < count; ++i) t[i] = A(kernel[i]);
     return t;
@@ -123,10 +129,17 @@ ZelStatus filter_round(const T* src, int ss, T* dst, int ds, ZeliSize roi, const
         j.fin.mode = mode;
         lin_run<T, float, float, Rule::RoundF, T, L == AC4>(j, roi.height, team);
     } else {
-        LinJob j = geom_job(src, ss, dst, ds, g, CH, lay_taps<Zel32s>(buffer, kernel, taps_of(ks)));
+        Zel32s* taps = lay_taps<Zel32s>(buffer, kernel, taps_of(ks));
+        LinJob j = geom_job(src, ss, dst, ds, g, CH, taps);
         j.fin = divisor_of(divisor);
         j.fin.mode = mode;
         j.fin.dquot = std::is_same<K, Zel16s>::value;
+        if constexpr (std::is_same<T, Zel8u>::value) {
+            // the pairs follow the taps in the buffer: its size leaves room for both
+            const TapPairs pairs(j, taps, taps + taps_of(ks));
+            lin_run<T, Zel32s, std::uint32_t, Rule::RoundI, T, L == AC4>(j, roi.height, team);
+            return zelStatusOk;
+        }
         const unsigned long long biggest = std::is_same<T, Zel16u>::value ? 65535 : 32768;
         if (std::is_same<K, Zel32s>::value && tap_weight(kernel, taps_of(ks)) * biggest >= 0x80000000ull)
             lin_run_i64<T, Zel32s, T, L == AC4>(j, Rule::RoundI, roi.height, team);

@@ -41,6 +41,37 @@ inline void lin_block(Vec<Acc> (&acc)[4], const filt::LinJob& j, const In* base,
     acc[0] = a0, acc[1] = a1, acc[2] = a2, acc[3] = a3;
 }
 
+// 8-bit samples with 16-bit taps, two taps of a kernel row at a time through
+// the 16 x 16 into 32-bit multiply-add: the same 32-bit sums. j.pairs holds,
+// per kernel row, the taps (i, i + 1) as one 32-bit word, tap i low (a lone
+// last tap pairs with 0).
+template <int L>
+inline void lin_block_pairs(Vec<std::uint32_t> (&acc)[4], const filt::LinJob& j, const std::uint8_t* base, int k) {
+    using I = Vec<std::int32_t>;
+    using S = Vec<std::int16_t>;
+    constexpr int B = I::kWidth;
+    const std::int32_t* pairs = j.pairs;
+    const std::ptrdiff_t ch = j.ch;
+    const int per = (j.kW + 1) / 2;
+    I a0 = zero<I>(), a1 = zero<I>(), a2 = zero<I>(), a3 = zero<I>();
+    for (int jj = 0; jj < j.kH; ++jj) {
+        const std::uint8_t* r = row(base, j.srcStep, j.aY - jj) + std::ptrdiff_t(j.aX) * ch + k;
+        for (int q = 0; q < per; ++q) {
+            const std::uint8_t* p0 = r - 2 * q * ch;
+            const std::uint8_t* p1 = 2 * q + 1 < j.kW ? p0 - ch : p0;
+            const S tp = bitcast<std::int16_t>(set1<I>(pairs[std::size_t(jj) * per + q]));
+            const S x0 = load_u8_as16<B>(p0), y0 = load_u8_as16<B>(p1);
+            const S x1 = load_u8_as16<B>(p0 + 2 * L), y1 = load_u8_as16<B>(p1 + 2 * L);
+            a0 = a0 + madd(zip_lo(x0, y0), tp), a1 = a1 + madd(zip_hi(x0, y0), tp);
+            a2 = a2 + madd(zip_lo(x1, y1), tp), a3 = a3 + madd(zip_hi(x1, y1), tp);
+        }
+    }
+    unzip(a0, a1);
+    unzip(a2, a3);
+    acc[0] = bitcast<std::uint32_t>(a0), acc[1] = bitcast<std::uint32_t>(a1);
+    acc[2] = bitcast<std::uint32_t>(a2), acc[3] = bitcast<std::uint32_t>(a3);
+}
+
 // The same sums one sample at a time, for the n samples of a short row.
 template <class In, class Tap, class Acc>
 inline void lin_scalar(Acc* out, const filt::LinJob& j, const In* base, int n) {
@@ -74,15 +105,20 @@ void lin_rows(const filt::LinJob& j, int y0, int rows) {
             for (int u = 0; u < 4; ++u) r[u] = fin<R, D>(j.fin, acc[u], k + u * L);
             put_block<D, AC>(out + k, r, count);
         };
+        auto block = [&](V (&acc)[4], int k) {
+            if constexpr (std::is_same<In, std::uint8_t>::value && std::is_same<Acc, std::uint32_t>::value)
+                if (j.pairs) return lin_block_pairs<L>(acc, j, base, k);
+            lin_block<In, Tap, Acc, L>(acc, j, base, k);
+        };
         if (n >= BL) {
             V acc[4];
             int k = 0;
             for (; k + BL <= n; k += BL) {
-                lin_block<In, Tap, Acc, L>(acc, j, base, k);
+                block(acc, k);
                 emit(k, acc, BL);
             }
             if (k < n) {
-                lin_block<In, Tap, Acc, L>(acc, j, base, n - BL);
+                block(acc, n - BL);
                 emit(n - BL, acc, BL);
             }
         } else {

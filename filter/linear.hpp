@@ -26,6 +26,7 @@ struct LinJob {
     int ch = 1; // samples a pixel
     int kW = 1, kH = 1, aX = 0, aY = 0;
     const void* taps = nullptr; // kW * kH taps in kernel order
+    const std::int32_t* pairs = nullptr; // 8-bit samples, taps within 16 bits: pairs of taps (lin_kernels.hpp)
     FinP fin;
 };
 
@@ -83,6 +84,40 @@ inline unsigned long long tap_weight(const Tap* k, long long count) {
     for (long long i = 0; i < count; ++i) w += (unsigned long long)std::llabs((long long)k[i]);
     return w;
 }
+
+// Pairs of 16-bit taps for the multiply-add route of 8-bit samples: per
+// kernel row, taps (i, i + 1) as one word, tap i in the low half (a lone last
+// tap pairs with 0). Made when every tap lies in -32768..32767, into `into`
+// (room in a caller's buffer) or a table of its own; `j.pairs` then points at
+// them. ok is false when the table could not be had.
+struct TapPairs {
+    Table<std::int32_t> table;
+    bool ok = true;
+    static int count(const LinJob& j) { return j.kH * ((j.kW + 1) / 2); }
+    template <class K>
+    TapPairs(LinJob& j, const K* k, std::int32_t* into = nullptr)
+        : table(!into && fits(k, (long long)j.kW * j.kH) ? count(j) : 0) {
+        if (!fits(k, (long long)j.kW * j.kH)) return;
+        if (!into && !(ok = table.ok(count(j)))) return;
+        std::int32_t* out = into ? into : table.get();
+        const int per = (j.kW + 1) / 2;
+        for (int r = 0; r < j.kH; ++r)
+            for (int q = 0; q < per; ++q) {
+                const int i = 2 * q;
+                const std::uint32_t lo = std::uint16_t(k[std::size_t(r) * j.kW + i]);
+                const std::uint32_t hi = i + 1 < j.kW ? std::uint16_t(k[std::size_t(r) * j.kW + i + 1]) : 0u;
+                out[std::size_t(r) * per + q] = std::int32_t(lo | (hi << 16));
+            }
+        j.pairs = out;
+    }
+    template <class K>
+    static bool fits(const K* k, long long n) {
+        if (n > (1ll << 28)) return false;
+        for (long long i = 0; i < n; ++i)
+            if (k[i] < -32768 || k[i] > 32767) return false;
+        return true;
+    }
+};
 
 // Taps scaled before summing: float(k) * (1 / float(divisor)).
 inline void scale_taps(float* out, const Zel32s* k, int count, int divisor) {
@@ -156,6 +191,8 @@ ZelStatus sep_int(const T* src, int ss, T* dst, int ds, ZeliSize roi, const Zel3
         if (sep_short_step<ROW>(ss, ds, s, CH)) return zelStatusBadStep;
         LinJob j = sep_job(src, ss, dst, ds, s, CH, ROW, kernel);
         j.fin = divisor_of(divisor);
+        const TapPairs pairs(j, kernel);
+        if (!pairs.ok) return zelStatusMemAlloc;
         lin_run<Zel8u, Zel32s, std::uint32_t, Rule::Div, Zel8u, L == AC4>(j, roi.height, team_if(size_gate(roi)));
         return zelStatusOk;
     }

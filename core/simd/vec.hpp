@@ -641,3 +641,42 @@ inline __attribute__((always_inline)) V load_widen(const T* p) {
     if constexpr (std::is_floating_point<L>::value) return to_float(i);
     else return bitcast<L>(i);
 }
+
+// ---- Neighbourhood filters: pairs of 16-bit taps ---------------------------------------
+// Sums of 8-bit samples with 16-bit taps two taps at a time through madd:
+// zip_lo(a, b) and zip_hi(a, b) interleave the 16-bit lanes of a and b per
+// 128-bit block (the pairs madd multiplies), and unzip(lo, hi) puts 32-bit
+// results computed on zip_lo and zip_hi back in lane order: the first
+// returns lanes 0 .. L/2 - 1 of the pairs' order, the second the rest.
+template <int B>
+inline __attribute__((always_inline)) Vec<std::int16_t, B> zip_lo(Vec<std::int16_t, B> a, Vec<std::int16_t, B> b) {
+    if constexpr (B == 16) return wrap<std::int16_t, B>(_mm_unpacklo_epi16(ri(a), ri(b)));
+    else if constexpr (B == 32) return wrap<std::int16_t, B>(_mm256_unpacklo_epi16(ri(a), ri(b)));
+    else return wrap<std::int16_t, B>(_mm512_unpacklo_epi16(ri(a), ri(b)));
+}
+template <int B>
+inline __attribute__((always_inline)) Vec<std::int16_t, B> zip_hi(Vec<std::int16_t, B> a, Vec<std::int16_t, B> b) {
+    if constexpr (B == 16) return wrap<std::int16_t, B>(_mm_unpackhi_epi16(ri(a), ri(b)));
+    else if constexpr (B == 32) return wrap<std::int16_t, B>(_mm256_unpackhi_epi16(ri(a), ri(b)));
+    else return wrap<std::int16_t, B>(_mm512_unpackhi_epi16(ri(a), ri(b)));
+}
+template <int B>
+inline __attribute__((always_inline)) void unzip(Vec<std::int32_t, B>& lo, Vec<std::int32_t, B>& hi) {
+    if constexpr (B == 32) {
+        const __m256i l = ri(lo), h = ri(hi);
+        lo = wrap<std::int32_t, B>(_mm256_permute2x128_si256(l, h, 0x20));
+        hi = wrap<std::int32_t, B>(_mm256_permute2x128_si256(l, h, 0x31));
+    } else if constexpr (B == 64) {
+        const __m512i l = ri(lo), h = ri(hi);
+        lo = wrap<std::int32_t, B>(_mm512_permutex2var_epi64(l, _mm512_setr_epi64(0, 1, 8, 9, 2, 3, 10, 11), h));
+        hi = wrap<std::int32_t, B>(_mm512_permutex2var_epi64(l, _mm512_setr_epi64(4, 5, 12, 13, 6, 7, 14, 15), h));
+    }
+}
+
+// 2 * (B / 4) unsigned bytes widened to the 16-bit lanes of a vector of B bytes.
+template <int B>
+inline __attribute__((always_inline)) Vec<std::int16_t, B> load_u8_as16(const std::uint8_t* p) {
+    if constexpr (B == 16) return wrap<std::int16_t, B>(_mm_cvtepu8_epi16(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))));
+    else if constexpr (B == 32) return wrap<std::int16_t, B>(_mm256_cvtepu8_epi16(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p))));
+    else return wrap<std::int16_t, B>(_mm512_cvtepu8_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p))));
+}

@@ -14,7 +14,7 @@ struct IntVec {
 
     // 8u in 16-bit lanes: sums and differences fit signed, products unsigned.
     template <class W>
-    W lanes16(W x, W y) const {
+    ZEL_VI W lanes16(W x, W y) const {
         using U = Vec<std::uint16_t>;
         using S = Vec<std::int16_t>;
         if constexpr (O == Op::Mul) {
@@ -40,7 +40,7 @@ struct IntVec {
 
     // 32-bit lanes: exact for every 8- and 16-bit operation.
     using I = Vec<std::int32_t>;
-    I lanes32(I x, I y) const {
+    ZEL_VI I lanes32(I x, I y) const {
         constexpr bool u = !std::is_signed<P>::value;
         const I z = zero<I>();
         I s;
@@ -57,7 +57,7 @@ struct IntVec {
         return s;
     }
 
-    V operator()(V x, V y) const {
+    ZEL_VI V operator()(V x, V y) const {
         if constexpr (C == Sc::Plain && O != Op::Mul) {
             if constexpr (O == Op::Add) return adds(x, y);
             else if constexpr (O == Op::Sub) return subs(y, x);
@@ -86,7 +86,7 @@ template <Op O>
 struct FloatVec {
     int n;
     template <class V>
-    V operator()(V x, V y) const {
+    ZEL_VI V operator()(V x, V y) const {
         if constexpr (O == Op::Add) return x + y;
         else if constexpr (O == Op::Sub) return y - x;
         else if constexpr (O == Op::SubR) return x - y;
@@ -99,15 +99,15 @@ template <class P>
 struct MulScaleVec {
     int n;
     using V = Vec<P>;
-    V operator()(V x, V y) const {
+    ZEL_VI V operator()(V x, V y) const {
         if constexpr (sizeof(P) == 1) {
             using U = Vec<std::uint16_t>;
-            auto f = [](U p) { return bitcast<std::int16_t>(shr<8>(p + set1<U>(1) + shr<8>(p))); };
+            auto f = [](U p) ZEL_VL { return bitcast<std::int16_t>(shr<8>(p + set1<U>(1) + shr<8>(p))); };
             return narrow<P>(f(widen_lo<std::uint16_t>(x) * widen_lo<std::uint16_t>(y)),
                              f(widen_hi<std::uint16_t>(x) * widen_hi<std::uint16_t>(y)));
         } else {
             using U = Vec<std::uint32_t>;
-            auto f = [](U p) { return bitcast<std::int32_t>(shr<16>(p + set1<U>(1) + shr<16>(p))); };
+            auto f = [](U p) ZEL_VL { return bitcast<std::int32_t>(shr<16>(p + set1<U>(1) + shr<16>(p))); };
             return narrow<P>(f(widen_lo<std::uint32_t>(x) * widen_lo<std::uint32_t>(y)),
                              f(widen_hi<std::uint32_t>(x) * widen_hi<std::uint32_t>(y)));
         }

@@ -89,7 +89,8 @@ struct CIntDivOp {
     using P = typename Parts<E>::P;
     int n;
     static P part(double v, int n) {
-        v = std::nearbyint(std::ldexp(v, -n));
+        // beyond +-400 every non-zero quotient saturates or becomes 0 already
+        v = std::nearbyint(std::ldexp(v, n < -400 ? 400 : n > 400 ? -400 : -n));
         const double lo = std::numeric_limits<P>::min(), hi = std::numeric_limits<P>::max();
         return P(v < lo ? lo : v > hi ? hi : v);
     }

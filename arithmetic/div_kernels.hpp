@@ -11,7 +11,7 @@
 // a / b as r = rcp(b), e = 1 - b r, q = a r, q + (q + e q) e. The estimate is
 // the same instruction at every level.
 template <class V>
-inline V refined_div(V a, V b) {
+ZEL_VI V refined_div(V a, V b) {
     const V r = rcp(b);
     const V e = set1<V>(1.0f) - b * r;
     const V q = a * r;
@@ -21,7 +21,7 @@ inline V refined_div(V a, V b) {
 // True quotient; a zero divisor (of either sign) gives +inf or -inf by the
 // dividend's sign, NaN for a zero or NaN dividend.
 template <class V>
-inline V true_div(V a, V b) {
+ZEL_VI V true_div(V a, V b) {
     const V z = zero<V>(), inf = set1<V>(std::numeric_limits<float>::infinity());
     const V fix = select(gt(a, z), inf, select(lt(a, z), -inf, set1<V>(std::numeric_limits<float>::quiet_NaN())));
     return select(eq(b, z), fix, a / b);
@@ -37,7 +37,7 @@ using QuadV = Vec<float, 16>;
 // block structure above: count 8 (kBlockVecs vectors of BlockV), 4 (one
 // QuadV) or the last 1 to 3 samples (one partial QuadV, true division).
 template <class Blk>
-inline void div_blocks(int n, Blk&& blk) {
+ZEL_VI void div_blocks(int n, Blk&& blk) {
     int i = 0;
     for (; i + 8 <= n; i += 8) blk(i, 8);
     if (n - i >= 4) {
@@ -88,7 +88,7 @@ void div32f_const_row(const float* a, const float* b, float* d, int count) {
 // Float to integer by mode: -1 the current rounding mode, 0 towards zero,
 // 1 to nearest with ties to even, 2 to nearest with ties away from zero.
 template <int R, int B>
-inline Vec<std::int32_t, B> to_int(Vec<float, B> q) {
+ZEL_VI Vec<std::int32_t, B> to_int(Vec<float, B> q) {
     if constexpr (R < 0) return round_int(q);
     else if constexpr (R == 0) return trunc_int(q);
     else if constexpr (R == 1) return trunc_int(round_to<_MM_FROUND_TO_NEAREST_INT>(q));
@@ -103,7 +103,7 @@ inline Vec<std::int32_t, B> to_int(Vec<float, B> q) {
 
 // The saturated extremes of P by the sign of each lane (0 stays 0).
 template <class P, int B>
-inline Vec<std::int32_t, B> bound_of(Vec<std::int32_t, B> s) {
+ZEL_VI Vec<std::int32_t, B> bound_of(Vec<std::int32_t, B> s) {
     using I = Vec<std::int32_t, B>;
     const I z = zero<I>();
     return (gt(s, z) & set1<I>(std::numeric_limits<P>::max())) | (lt(s, z) & set1<I>(std::numeric_limits<P>::min()));
@@ -115,7 +115,7 @@ inline Vec<std::int32_t, B> bound_of(Vec<std::int32_t, B> s) {
 // non-zero constant whose float reciprocal multiplies. Without CST a zero
 // divisor gives the saturated dividend. `exact`: true division.
 template <class P, int R, Dc D, bool CST, int B>
-inline Vec<std::int32_t, B> int_quot(Vec<std::int32_t, B> num, Vec<std::int32_t, B> den, float f, bool exact) {
+ZEL_VI Vec<std::int32_t, B> int_quot(Vec<std::int32_t, B> num, Vec<std::int32_t, B> den, float f, bool exact) {
     using F = Vec<float, B>;
     using I = Vec<std::int32_t, B>;
     I res;
@@ -138,7 +138,7 @@ inline Vec<std::int32_t, B> int_quot(Vec<std::int32_t, B> num, Vec<std::int32_t,
 
 // Stores the first n lanes of 32-bit v saturated to P.
 template <class P, int B>
-inline void put_narrow(P* d, Vec<std::int32_t, B> v, int n) {
+ZEL_VI void put_narrow(P* d, Vec<std::int32_t, B> v, int n) {
     if constexpr (sizeof(P) == 2) store_n(d, narrow<P>(v, v), n);
     else store_n(d, narrow<P>(v, v, v, v), n);
 }

@@ -156,14 +156,14 @@ void box_rows(const filt::BoxJob& j, const filt::BoxState<Acc, D>& st, int y0, i
                 for (int i = 0; i < n; ++i) out[i] = D(st.sums[i]);
             }
         } else if (flt ? mW <= filt::kFreshWFloat : mW <= filt::kFreshW) {
-            emit(out, [&](int i) __attribute__((always_inline)) {
+            emit(out, [&](int i) ZEL_VL {
                 V s = load<V>(col + i);
                 for (int q = 1; q < mW; ++q) s = s + load<V>(col + i + q * CH);
                 return s;
             });
         } else if constexpr (flt) {
             row_running<CH, Acc>(st.sums, col, j.width, mW);
-            emit(out, [&](int i) __attribute__((always_inline)) { return load<V>(st.sums + i); });
+            emit(out, [&](int i) ZEL_VL { return load<V>(st.sums + i); });
         } else {
             // S(x) = S(x - CH) + col[x + (mW - 1) CH] - col[x - CH], in vectors by a
             // strided prefix sum of the differences; col[-CH..-1] reads 0, so the
@@ -173,7 +173,7 @@ void box_rows(const filt::BoxJob& j, const filt::BoxState<Acc, D>& st, int y0, i
                 for (int q = 1; q < mW; ++q) first[V::kLanes - CH + c] += col[c - CH + q * CH];
             V carry = load<V>(first);
             const int far = (mW - 1) * CH;
-            emit(out, [&](int i) __attribute__((always_inline)) {
+            emit(out, [&](int i) ZEL_VL {
                 carry = scan_add<CH>(load<V>(col + i + far) - load<V>(col + i - CH)) + repeat_last<CH>(carry);
                 return carry;
             });

@@ -11,12 +11,6 @@
 #include <limits>
 #include <type_traits>
 
-// Kernel helpers that take or return whole vectors are always inlined: GCC 12
-// may give an out-of-line instance of such a template, compiled under a
-// wider target pragma, a vzeroupper before its ret that clears the upper
-// half of a 256- or 512-bit result.
-#define ZEL_VINLINE inline __attribute__((always_inline))
-
 namespace zel {
 namespace filt {
 

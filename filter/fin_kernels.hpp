@@ -17,7 +17,7 @@ using filt::kDivPow2;
 // V::kLanes samples of T converted by value to V's lanes: a widening load for
 // 8- and 16-bit samples into 32-bit lanes.
 template <class V, class T>
-ZEL_VINLINE V load_conv(const T* p) {
+ZEL_VI V load_conv(const T* p) {
     if constexpr (sizeof(T) <= 2 && sizeof(typename V::Lane) == 4) return load_widen<V>(p);
     else return load_as<V>(p);
 }
@@ -25,7 +25,7 @@ ZEL_VINLINE V load_conv(const T* p) {
 // Unsigned 32-bit lanes to float, correctly rounded at every width: values
 // from 2^31 are halved with their lowest bit kept as a sticky bit first.
 template <int B>
-ZEL_VINLINE Vec<float, B> u32_to_float(Vec<std::uint32_t, B> s) {
+ZEL_VI Vec<float, B> u32_to_float(Vec<std::uint32_t, B> s) {
     using I = Vec<std::int32_t, B>;
     using F = Vec<float, B>;
     const I big = lt(bitcast<std::int32_t>(s), zero<I>());
@@ -37,7 +37,7 @@ ZEL_VINLINE Vec<float, B> u32_to_float(Vec<std::uint32_t, B> s) {
 
 // Float lanes rounded by mode 0 (towards zero), 1 (ties to even), 2 (ties away).
 template <class V>
-ZEL_VINLINE V round_mode(V y, int mode) {
+ZEL_VI V round_mode(V y, int mode) {
     if (mode == 0) return round_to<_MM_FROUND_TO_ZERO>(y);
     if (mode == 1) return round_to<_MM_FROUND_TO_NEAREST_INT>(y);
     using T = typename V::Lane;
@@ -48,7 +48,7 @@ ZEL_VINLINE V round_mode(V y, int mode) {
 
 // Float lanes clamped to D's range (NaN gives the minimum) and rounded by mode.
 template <class D, class V>
-ZEL_VINLINE V clamp_round(V y, int mode) {
+ZEL_VI V clamp_round(V y, int mode) {
     using T = typename V::Lane;
     const V lo = set1<V>(T(std::numeric_limits<D>::min())), hi = set1<V>(T(std::numeric_limits<D>::max()));
     return round_mode(min(max(y, lo), hi), mode);
@@ -56,13 +56,13 @@ ZEL_VINLINE V clamp_round(V y, int mode) {
 
 // Integral double lanes of a split 32-bit vector back into one 32-bit vector.
 template <int B>
-ZEL_VINLINE Vec<std::int32_t, B> join_ints(Vec<double, B> lo, Vec<double, B> hi) {
-    return join_halves(convert<std::int32_t>(lo), convert<std::int32_t>(hi));
+ZEL_VI Vec<std::int32_t, B> join_ints(Vec<double, B> lo, Vec<double, B> hi) {
+    return concat(convert<std::int32_t>(lo), convert<std::int32_t>(hi));
 }
 
 // s / 2^k rounded by mode (k >= 1) for signed 32-bit lanes.
 template <int B>
-ZEL_VINLINE Vec<std::int32_t, B> shift_round(Vec<std::int32_t, B> s, int k, int mode) {
+ZEL_VI Vec<std::int32_t, B> shift_round(Vec<std::int32_t, B> s, int k, int mode) {
     using I = Vec<std::int32_t, B>;
     using U = Vec<std::uint32_t, B>;
     const I q = shr(s, k);
@@ -79,7 +79,7 @@ ZEL_VINLINE Vec<std::int32_t, B> shift_round(Vec<std::int32_t, B> s, int k, int 
 
 // One vector of sums s (lanes k, k + 1, ... of the row) to results for D.
 template <Rule R, class D, class V>
-ZEL_VINLINE auto fin(const FinP& p, V s, int k) {
+ZEL_VI auto fin(const FinP& p, V s, int k) {
     constexpr int B = V::kWidth;
     using I = Vec<std::int32_t, B>;
     using U = Vec<std::uint32_t, B>;
@@ -114,7 +114,7 @@ ZEL_VINLINE auto fin(const FinP& p, V s, int k) {
             // exact quotients in double: truncated, or rounded by mode
             using Dv = Vec<double, B>;
             const Dv dd = set1<Dv>(double(p.d));
-            auto one = [&](Dv y) __attribute__((always_inline)) { return mode == 0 ? round_to<_MM_FROUND_TO_ZERO>(y / dd) : clamp_round<D>(y / dd, mode); };
+            auto one = [&](Dv y) ZEL_VL { return mode == 0 ? round_to<_MM_FROUND_TO_ZERO>(y / dd) : clamp_round<D>(y / dd, mode); };
             return join_ints(one(convert<double>(half_lo(v))), one(convert<double>(half_hi(v))));
         }
         return trunc_int(clamp_round<D>(to_float(v) * set1<F>(p.f), mode));
@@ -135,7 +135,7 @@ ZEL_VINLINE auto fin(const FinP& p, V s, int k) {
 
 // Lanes of a destination vector that hold alpha: every fourth sample.
 template <class V>
-ZEL_VINLINE V alpha_lanes() {
+ZEL_VI V alpha_lanes() {
     using I = typename IntOfSize<sizeof(typename V::Lane)>::type;
     typename RawOf<I, V::kWidth>::type m;
     for (int i = 0; i < V::kLanes; ++i) m[i] = (i & 3) == 3 ? I(-1) : I(0);
@@ -145,7 +145,7 @@ ZEL_VINLINE V alpha_lanes() {
 // Stores the first n lanes of v (all when n >= lanes); with AC the alpha
 // lanes keep the destination's samples.
 template <bool AC, class T, int B>
-ZEL_VINLINE void put(T* p, Vec<T, B> v, int n) {
+ZEL_VI void put(T* p, Vec<T, B> v, int n) {
     using V = Vec<T, B>;
     if (n >= V::kLanes) {
         if constexpr (AC) v = select(alpha_lanes<V>(), load<V>(p), v);

@@ -49,7 +49,6 @@ template <int L>
 inline void lin_block_pairs(Vec<std::uint32_t> (&acc)[4], const filt::LinJob& j, const std::uint8_t* base, int k) {
     using I = Vec<std::int32_t>;
     using S = Vec<std::int16_t>;
-    constexpr int B = I::kWidth;
     const std::int32_t* pairs = j.pairs;
     const std::ptrdiff_t ch = j.ch;
     const int per = (j.kW + 1) / 2;
@@ -60,10 +59,10 @@ inline void lin_block_pairs(Vec<std::uint32_t> (&acc)[4], const filt::LinJob& j,
             const std::uint8_t* p0 = r - 2 * q * ch;
             const std::uint8_t* p1 = 2 * q + 1 < j.kW ? p0 - ch : p0;
             const S tp = bitcast<std::int16_t>(set1<I>(pairs[std::size_t(jj) * per + q]));
-            const S x0 = load_u8_as16<B>(p0), y0 = load_u8_as16<B>(p1);
-            const S x1 = load_u8_as16<B>(p0 + 2 * L), y1 = load_u8_as16<B>(p1 + 2 * L);
-            a0 = a0 + madd(zip_lo(x0, y0), tp), a1 = a1 + madd(zip_hi(x0, y0), tp);
-            a2 = a2 + madd(zip_lo(x1, y1), tp), a3 = a3 + madd(zip_hi(x1, y1), tp);
+            const S x0 = load_widen<S>(p0), y0 = load_widen<S>(p1);
+            const S x1 = load_widen<S>(p0 + 2 * L), y1 = load_widen<S>(p1 + 2 * L);
+            a0 = a0 + madd(interleave_lo(x0, y0), tp), a1 = a1 + madd(interleave_hi(x0, y0), tp);
+            a2 = a2 + madd(interleave_lo(x1, y1), tp), a3 = a3 + madd(interleave_hi(x1, y1), tp);
         }
     }
     unzip(a0, a1);

@@ -2500,29 +2500,23 @@ ZELAPI ZelStatus zeliMirror_32f_AC4R(
 ZELAPI ZelStatus zeliMirror_32f_AC4IR(
     Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliAxis flip);
 
-/* ==== Compare and threshold =============================================
+/* ==== Compare ===========================================================
 
    zeliCompare, zeliCompareC: dst = 255 where src1 <op> src2 (or the constant)
    holds in every channel of the pixel (AC4: the first three), else 0; dst has
    one channel. An operator above 4 does nothing.
    zeliCompareEqualEps(C): 255 where |a - b| <= eps in every channel.
-   zeliThreshold: x beyond a level becomes the level (plain, GT, LT) or a value
-   (Val, GTVal, LTVal, LTValGTVal); NaN samples stay.
-   zeliComputeThreshold_Otsu_8u_C1R: the level that best splits the histogram.
 
-   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep, then the
-   family's own: zelStatusBadEpsilon for eps below zero, zelStatusBadThreshold
-   when thresholdLT is above thresholdGT, zelStatusBadMode for a threshold
-   operator other than zelCmpLess and zelCmpGreater. zeliCompare and
-   zeliCompareC return zelStatusOk for an operator above 4 and write nothing.
+   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep, then
+   zelStatusBadEpsilon for eps below zero. zeliCompare and zeliCompareC return
+   zelStatusOk for an operator above 4 and write nothing.
 
    Example:
        Zel8u img[4 * 2] = {10, 200, 90, 30, 250, 0, 128, 129};
-       Zel8u level = 0, mask[4 * 2];
+       Zel8u mask[4 * 2];
        ZeliSize roi = {4, 2};
-       ZelStatus st = zeliComputeThreshold_Otsu_8u_C1R(img, 4, roi, &level);
-       // mask = 255 where img > level, else 0
-       if (st == zelStatusOk) st = zeliCompareC_8u_C1R(img, 4, level, mask, 4, roi, zelCmpGreater); */
+       // mask = 255 where img > 100, else 0
+       ZelStatus st = zeliCompareC_8u_C1R(img, 4, 100, mask, 4, roi, zelCmpGreater); */
 
 /* zeliCompare */
 ZELAPI ZelStatus zeliCompare_8u_C1R(
@@ -2651,6 +2645,25 @@ ZELAPI ZelStatus zeliCompareEqualEpsC_32f_C4R(
 ZELAPI ZelStatus zeliCompareEqualEpsC_32f_AC4R(
     const Zel32f* pSrc, int srcStep, const Zel32f* value, Zel8u* pDst, int dstStep,
     ZeliSize roiSize, Zel32f eps);
+
+/* ==== Threshold =========================================================
+
+   zeliThreshold: x beyond a level becomes the level (plain, GT, LT) or a value
+   (Val, GTVal, LTVal, LTValGTVal); NaN samples stay.
+   zeliComputeThreshold_Otsu_8u_C1R: the level that best splits the histogram.
+
+   Checks: zelStatusNullPointer, zelStatusBadSize, zelStatusBadStep, then the
+   family's own: zelStatusBadThreshold when thresholdLT is above thresholdGT,
+   zelStatusBadMode for a threshold operator other than zelCmpLess and
+   zelCmpGreater.
+
+   Example:
+       Zel8u img[4 * 2] = {10, 200, 90, 30, 250, 0, 128, 129};
+       Zel8u level = 0, out[4 * 2];
+       ZeliSize roi = {4, 2};
+       ZelStatus st = zeliComputeThreshold_Otsu_8u_C1R(img, 4, roi, &level);
+       // samples above the level become the level
+       if (st == zelStatusOk) st = zeliThreshold_GT_8u_C1R(img, 4, out, 4, roi, level); */
 
 /* zeliThreshold */
 ZELAPI ZelStatus zeliThreshold_8u_C1R(

@@ -1,6 +1,5 @@
-// Exported members of the compare and threshold family.
+// Exported members of the compare family.
 #include "point/compare.hpp"
-#include "point/threshold.hpp"
 
 #define ZEL_LIST "zelip8/fn_compare.h"
 #include "core/define_list.hpp"

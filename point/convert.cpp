@@ -30,7 +30,7 @@ ZelStatus convert(const S* src, int srcStep, D* dst, int dstStep, ZeliSize roi) 
     if constexpr (streams_by_volume<S, D>())
         nt = nontemporal((unsigned long long)(sizeof(S) + sizeof(D)) * channels(L) * (unsigned long long)roi.width *
                          (unsigned long long)roi.height);
-    run_image<L>(src, srcStep, dst, dstStep, roi, cvt::Plain<S, D>(), nt);
+    run_image<cvt::Kind::Plain, L>(src, srcStep, dst, dstStep, roi, {}, nt);
     return zelStatusOk;
 }
 
@@ -39,7 +39,7 @@ template <class S, class D>
 ZelStatus convert_rs(const S* src, int srcStep, D* dst, int dstStep, ZeliSize roi) {
     if (any_null(src, dst)) return zelStatusNullPointer;
     if (bad_size(roi)) return zelStatusBadSize;
-    run_image<C1>(src, srcStep, dst, dstStep, roi, cvt::NonNegative<S, D>(), false);
+    run_image<cvt::Kind::NonNegative, C1>(src, srcStep, dst, dstStep, roi, {}, false);
     return zelStatusOk;
 }
 
@@ -51,10 +51,12 @@ template <Layout L, bool Scaled, class D>
 void float_to_int(const Zel32f* src, int srcStep, D* dst, int dstStep, ZeliSize roi, int mode, float m) {
     const unsigned field = mode == 1 ? kRoundNearest : kRoundZero;
     const unsigned saved = zel_set_rc_ssx(field);
+    cvt::Params p;
+    p.m = m;
     if (mode == 0 || mode == 1)
-        run_image<L>(src, srcStep, dst, dstStep, roi, cvt::FloatToInt<D, false, Scaled>(m), false);
+        run_image<cvt::Kind::Round, L, Scaled>(src, srcStep, dst, dstStep, roi, p, false);
     else
-        run_image<L>(src, srcStep, dst, dstStep, roi, cvt::FloatToInt<D, true, Scaled>(m), false);
+        run_image<cvt::Kind::RoundFinancial, L, Scaled>(src, srcStep, dst, dstStep, roi, p, false);
     if ((saved & kRoundField) != field) zel_set_cw_ssx(saved);
 }
 
@@ -209,7 +211,7 @@ ZelStatus scale_widen(const Zel8u* src, int srcStep, D* dst, int dstStep, ZeliSi
     if (bad_size(roi)) return zelStatusBadSize;
     if (any_bad_step(srcStep, dstStep)) return zelStatusBadStep;
     const bool nt = (long long)roi.width * roi.height >= 0x155555;
-    run_image<L>(src, srcStep, dst, dstStep, roi, cvt::ReplicateBytes<D>(), nt);
+    run_image<cvt::Kind::Replicate, L>(src, srcStep, dst, dstStep, roi, {}, nt);
     return zelStatusOk;
 }
 
@@ -218,18 +220,18 @@ ZelStatus scale_widen(const Zel8u* src, int srcStep, D* dst, int dstStep, ZeliSi
 template <class S, Layout L>
 ZelStatus scale_to_8u(const S* src, int srcStep, Zel8u* dst, int dstStep, ZeliSize roi, ZelHintAlgorithm hint) {
     constexpr bool k32 = std::is_same<S, Zel32s>::value;
-    using Accurate = typename std::conditional<k32, cvt::Scale32Accurate, cvt::Scale16Accurate<S>>::type;
-    using Fast = typename std::conditional<k32, cvt::Scale32Fast, cvt::Scale16Fast<S>>::type;
+    constexpr cvt::Kind kAccurate = k32 ? cvt::Kind::Scale32Accurate : cvt::Kind::Scale16Accurate;
+    constexpr cvt::Kind kFast = k32 ? cvt::Kind::Scale32Fast : cvt::Kind::Scale16Fast;
     const bool accurate = hint == 2;
     const unsigned saved = accurate ? zel_set_rc_ssx(kRoundNearest) : 0;
     if (any_null(src, dst)) return zelStatusNullPointer;
     if (bad_size(roi)) return zelStatusBadSize;
     if (any_bad_step(srcStep, dstStep)) return zelStatusBadStep;
     if (accurate) {
-        run_image<L>(src, srcStep, dst, dstStep, roi, Accurate(), false);
+        run_image<kAccurate, L>(src, srcStep, dst, dstStep, roi, {}, false);
         if ((saved & kRoundField) != kRoundNearest) zel_set_cw_ssx(saved);
     } else {
-        run_image<L>(src, srcStep, dst, dstStep, roi, Fast(), false);
+        run_image<kFast, L>(src, srcStep, dst, dstStep, roi, {}, false);
     }
     return zelStatusOk;
 }
@@ -240,7 +242,10 @@ ZelStatus scale_8u32f(const Zel8u* src, int srcStep, Zel32f* dst, int dstStep, Z
     if (any_null(src, dst)) return zelStatusNullPointer;
     if (bad_size(roi)) return zelStatusBadSize;
     if (any_bad_step(srcStep, dstStep)) return zelStatusBadStep;
-    run_image<L>(src, srcStep, dst, dstStep, roi, cvt::Scale8uTo32f(vMin, vMax), false);
+    cvt::Params p;
+    p.k = (vMax - vMin) / 255.0f;
+    p.b = vMin;
+    run_image<cvt::Kind::Scale8uTo32f, L>(src, srcStep, dst, dstStep, roi, p, false);
     return zelStatusOk;
 }
 
@@ -253,7 +258,12 @@ ZelStatus scale_32f8u(const Zel32f* src, int srcStep, Zel8u* dst, int dstStep, Z
     if (any_null(src, dst)) return zelStatusNullPointer;
     if (bad_size(roi)) return zelStatusBadSize;
     if (any_bad_step(srcStep, dstStep)) return zelStatusBadStep;
-    run_image<L>(src, srcStep, dst, dstStep, roi, cvt::Scale32fTo8u(vMin, vMax), false);
+    cvt::Params p;
+    p.lo = vMin;
+    p.hi = vMax;
+    p.k = 255.0f / (vMax - vMin);
+    p.b = 0.0f - vMin * p.k;
+    run_image<cvt::Kind::Scale32fTo8u, L>(src, srcStep, dst, dstStep, roi, p, false);
     if ((saved & kRoundField) != kRoundNearest) zel_set_cw_ssx(saved);
     return zelStatusOk;
 }

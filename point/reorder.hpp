@@ -1,16 +1,15 @@
-// Reordering: channel permutation, transposition and mirroring.
-//
-// Every kernel moves whole samples, so the vector paths and the scalar paths
-// give identical bytes by construction; the vector paths only choose how many
-// pixels move at once. Pixels are handled as opaque blocks of E bytes.
+// Reordering: channel permutation, transposition and mirroring. The entries
+// check their arguments, build the byte tables of a swap and walk the rows;
+// the row and block kernels are in reorder_kernels.hpp, compiled once per
+// level. Every kernel moves whole samples, so every level gives the same bytes.
 #pragma once
 
+#include "core/chunks.hpp"
 #include "core/frame.hpp"
-#include "point/reorder_store.hpp"
 
-#include <smmintrin.h>
+#define ZEL_KERNELS "point/reorder_kernels.hpp"
+#include "core/simd/levels.hpp"
 
-#include <algorithm>
 #include <cstring>
 
 namespace zel {
@@ -19,37 +18,15 @@ namespace zel {
 // Channel swap: dst channel c = src channel order[c].
 // ===========================================================================
 
-// One pixel at a time: the whole source pixel is read before the destination
-// pixel is written, so the in-place forms share the kernel.
-template <class T, int SC, int NA>
-inline void swap_row(const T* s, T* d, int first, int end, int dc, const int* o) {
-    int oc[4] = {0, 0, 0, 0};
-    for (int c = 0; c < NA; ++c) oc[c] = o[c];
-    s += std::ptrdiff_t(first) * SC;
-    d += std::ptrdiff_t(first) * dc;
-    for (int x = first; x < end; ++x, s += SC, d += dc) {
-        T p[SC];
-        for (int c = 0; c < SC; ++c) p[c] = s[c];
-        for (int c = 0; c < NA; ++c) d[c] = p[oc[c]];
+// The byte shuffle of 16 bytes of E-byte pixels of S-byte samples: byte j of
+// a whole pixel takes its channel from order (the NA first channels), bytes of
+// the other channels and bytes after the last whole pixel stay where they are.
+template <int S, int E, int NA>
+inline void swap_table(const int* order, std::uint8_t* table) {
+    for (int j = 0; j < 16; ++j) {
+        const int c = (j % E) / S, from = c < NA ? order[c] : c;
+        table[j] = std::uint8_t(j / E < 16 / E ? (j / E) * E + from * S + j % S : j);
     }
-}
-
-// 8u, three channels in and out: five pixels (15 bytes) per shuffle. The 16th
-// byte written is the next pixel's first source byte, rewritten by the next
-// step (or by the scalar tail); in place it is written with its own value.
-// Returns the number of pixels done.
-inline int swap_row_8u_c3(const Zel8u* s, Zel8u* d, int w, const int* o) {
-    alignas(16) unsigned char m[16];
-    for (int k = 0; k < 5; ++k)
-        for (int c = 0; c < 3; ++c) m[3 * k + c] = static_cast<unsigned char>(3 * k + o[c]);
-    m[15] = 15;
-    const __m128i mask = _mm_load_si128(reinterpret_cast<const __m128i*>(m));
-    int x = 0;
-    for (; x + 6 <= w; x += 5) {
-        const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(s + 3 * x));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(d + 3 * x), _mm_shuffle_epi8(v, mask));
-    }
-    return x;
 }
 
 // SC source samples a pixel, DC destination samples a pixel, NA of them taken
@@ -61,13 +38,17 @@ ZelStatus swap_channels(const T* src, int srcStep, T* dst, int dstStep, ZeliSize
     if (any_bad_step(srcStep, dstStep)) return zelStatusBadStep;
     for (int c = 0; c < NA; ++c)
         if (order[c] < 0 || order[c] > MaxEntry) return zelStatusBadChannelOrder;
-    for (int r = 0; r < roi.height; ++r) {
-        const T* s = row(src, srcStep, r);
-        T* d = row(dst, dstStep, r);
-        int x = 0;
-        if constexpr (sizeof(T) == 1 && SC == 3 && DC == 3) x = swap_row_8u_c3(s, d, roi.width, order);
-        swap_row<T, SC, NA>(s, d, x, roi.width, DC, order);
-    }
+    constexpr int S = int(sizeof(T));
+    alignas(16) std::uint8_t table[16];
+    swap_table<S, S * SC, NA>(order, table);
+    // Rows without gaps make one long row.
+    if (contiguous(roi.width * (long long)(S * SC), roi.height, 0x7fffffffLL * S * SC, srcStep) &&
+        contiguous(roi.width * (long long)(S * DC), roi.height, 0x7fffffffLL * S * DC, dstStep))
+        roi = {roi.width * roi.height, 1};
+    const auto k = ZEL_PICK(swap_row<S, SC, DC, NA>);
+    for (int r = 0; r < roi.height; ++r)
+        k(reinterpret_cast<const std::uint8_t*>(row(src, srcStep, r)), reinterpret_cast<std::uint8_t*>(row(dst, dstStep, r)),
+          roi.width, order, table);
     return zelStatusOk;
 }
 
@@ -130,120 +111,17 @@ ZelStatus swap_channels_c3c4(const T* src, int srcStep, T* dst, int dstStep, Zel
 }
 
 // ===========================================================================
-// Vector helpers on blocks of E-byte pixels (E = 1, 2, 4, 8, 16).
-// ===========================================================================
-
-// Interleaves the low (Hi false) or high halves of two registers in E-byte units.
-template <int E, bool Hi>
-inline __m128i unpack(__m128i a, __m128i b) {
-    if constexpr (E == 1) return Hi ? _mm_unpackhi_epi8(a, b) : _mm_unpacklo_epi8(a, b);
-    else if constexpr (E == 2) return Hi ? _mm_unpackhi_epi16(a, b) : _mm_unpacklo_epi16(a, b);
-    else if constexpr (E == 4) return Hi ? _mm_unpackhi_epi32(a, b) : _mm_unpacklo_epi32(a, b);
-    else return Hi ? _mm_unpackhi_epi64(a, b) : _mm_unpacklo_epi64(a, b);
-}
-
-constexpr bool vector_pixel(int E) { return E == 1 || E == 2 || E == 4 || E == 8; }
-
-inline __m128i loadu(const void* p) { return _mm_loadu_si128(static_cast<const __m128i*>(p)); }
-inline void storeu(void* p, __m128i v) { _mm_storeu_si128(static_cast<__m128i*>(p), v); }
-
-// Transposes an n x n block of E-byte pixels, n = 16 / E, one 16-byte row a
-// register. Each round interleaves register i with register i + n/2; the
-// index bits of (register, position) rotate by one bit a round, so after
-// log2(n) rounds row and column have changed places.
-template <int E, bool NT>
-inline void transpose_block(const unsigned char* s, std::ptrdiff_t ss, unsigned char* d, std::ptrdiff_t ds) {
-    constexpr int n = 16 / E;
-    __m128i r[n], t[n];
-    for (int i = 0; i < n; ++i) r[i] = loadu(s + i * ss);
-    for (int round = 1; round < n; round <<= 1) {
-        for (int i = 0; i < n / 2; ++i) {
-            t[2 * i] = unpack<E, false>(r[i], r[i + n / 2]);
-            t[2 * i + 1] = unpack<E, true>(r[i], r[i + n / 2]);
-        }
-        for (int i = 0; i < n; ++i) r[i] = t[i];
-    }
-    for (int i = 0; i < n; ++i) {
-        if constexpr (NT) _mm_stream_si128(reinterpret_cast<__m128i*>(d + i * ds), r[i]);
-        else storeu(d + i * ds, r[i]);
-    }
-}
-
-// ===========================================================================
 // Transpose
 // ===========================================================================
 
-// Copies the w x h pixels of the source at (x0, y0) to their transposed
-// places, one pixel at a time.
-template <int E>
-inline void transpose_scalar(const unsigned char* s, std::ptrdiff_t ss, unsigned char* d, std::ptrdiff_t ds, int x0,
-                             int x1, int y0, int y1) {
-    for (int y = y0; y < y1; ++y) {
-        const unsigned char* sr = s + y * ss;
-        for (int x = x0; x < x1; ++x) std::memcpy(d + x * ds + std::ptrdiff_t(y) * E, sr + std::ptrdiff_t(x) * E, E);
-    }
-}
-
-// Bands of up to 512 source rows; inside a band, columns of vector blocks from
-// top to bottom, so that each destination row is written in one sweep while
-// the band's source lines stay in the cache for the next column. Pixels
-// outside the vector grid (and pixel sizes without a vector kernel) go one
-// at a time.
-template <int E, bool NT>
-void transpose_tiled(const unsigned char* s, std::ptrdiff_t ss, unsigned char* d, std::ptrdiff_t ds, int w, int h) {
-    constexpr int n = vector_pixel(E) ? 16 / E : 1, band = 512;
-    const int fx = vector_pixel(E) ? w / n * n : 0;
-    for (int by = 0; by < h; by += band) {
-        const int ey = std::min(h, by + band);
-        const int fy = vector_pixel(E) ? by + (ey - by) / n * n : by;
-        if constexpr (vector_pixel(E))
-            for (int x = 0; x < fx; x += n)
-                for (int y = by; y < fy; y += n)
-                    transpose_block<E, NT>(s + y * ss + std::ptrdiff_t(x) * E, ss, d + x * ds + std::ptrdiff_t(y) * E, ds);
-        transpose_scalar<E>(s, ss, d, ds, fx, w, by, fy);
-        transpose_scalar<E>(s, ss, d, ds, 0, w, fy, ey);
-    }
-}
-
-// Square region in place: pairs of vector blocks above and below the
-// diagonal change places, diagonal blocks turn in themselves, and the pixels
-// outside the vector grid are swapped one pair at a time.
-template <int E>
-void transpose_square_inplace(unsigned char* p, std::ptrdiff_t step, int N) {
-    int F = 0;
-    if constexpr (vector_pixel(E)) {
-        constexpr int n = 16 / E;
-        F = N / n * n;
-        alignas(16) unsigned char tmp[16 * 16];
-        for (int by = 0; by < F; by += n) {
-            unsigned char* diag = p + by * step + std::ptrdiff_t(by) * E;
-            transpose_block<E, false>(diag, step, tmp, 16);
-            for (int i = 0; i < n; ++i) std::memcpy(diag + i * step, tmp + 16 * i, 16);
-            for (int bx = by + n; bx < F; bx += n) {
-                unsigned char* a = p + by * step + std::ptrdiff_t(bx) * E; // above the diagonal
-                unsigned char* b = p + bx * step + std::ptrdiff_t(by) * E; // its mirror
-                transpose_block<E, false>(a, step, tmp, 16);
-                transpose_block<E, false>(b, step, a, step);
-                for (int i = 0; i < n; ++i) std::memcpy(b + i * step, tmp + 16 * i, 16);
-            }
-        }
-    }
-    unsigned char t[E];
-    for (int y = 0; y < N; ++y)
-        for (int x = std::max(y + 1, F); x < N; ++x) {
-            unsigned char* a = p + y * step + std::ptrdiff_t(x) * E;
-            unsigned char* b = p + x * step + std::ptrdiff_t(y) * E;
-            std::memcpy(t, a, E);
-            std::memcpy(a, b, E);
-            std::memcpy(b, t, E);
-        }
-}
-
+// In place, on a square region whose rows do not overlap.
 template <class T, int C>
 ZelStatus transpose_i(T* srcDst, int step, ZeliSize roi) {
+    constexpr int E = int(sizeof(T)) * C;
     if (any_null(srcDst)) return zelStatusNullPointer;
     if (bad_size(roi) || roi.width != roi.height) return zelStatusBadSize;
-    transpose_square_inplace<int(sizeof(T)) * C>(reinterpret_cast<unsigned char*>(srcDst), step, roi.width);
+    if ((step < 0 ? -(long long)step : (long long)step) < (long long)roi.width * E) return zelStatusBadStep;
+    ZEL_PICK(transpose_square<E>)(reinterpret_cast<unsigned char*>(srcDst), step, roi.width);
     return zelStatusOk;
 }
 
@@ -267,133 +145,18 @@ ZelStatus transpose(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi
     auto* d = reinterpret_cast<unsigned char*>(dst);
     if constexpr (E == 1) {
         if (transpose_nt(src, srcStep, dst, dstStep, roi)) {
-            transpose_tiled<1, true>(s, srcStep, d, dstStep, roi.width, roi.height);
-            _mm_sfence();
+            ZEL_PICK(transpose_rect<1, true>)(s, srcStep, d, dstStep, roi.width, roi.height);
+            stream_fence();
             return zelStatusOk;
         }
     }
-    transpose_tiled<E, false>(s, srcStep, d, dstStep, roi.width, roi.height);
+    ZEL_PICK(transpose_rect<E, false>)(s, srcStep, d, dstStep, roi.width, roi.height);
     return zelStatusOk;
 }
 
 // ===========================================================================
 // Mirror
 // ===========================================================================
-
-// Reverses the order of the E-byte pixels of a register.
-template <int E>
-inline __m128i reverse_pixels(__m128i v) {
-    if constexpr (E == 16) return v;
-    else if constexpr (E == 8) return _mm_shuffle_epi32(v, _MM_SHUFFLE(1, 0, 3, 2));
-    else if constexpr (E == 4) return _mm_shuffle_epi32(v, _MM_SHUFFLE(0, 1, 2, 3));
-    else {
-        alignas(16) unsigned char m[16];
-        for (int j = 0; j < 16; ++j) m[j] = static_cast<unsigned char>((16 / E - 1 - j / E) * E + j % E);
-        return _mm_shuffle_epi8(v, _mm_load_si128(reinterpret_cast<const __m128i*>(m)));
-    }
-}
-
-// Bytes of the alpha sample of each E-byte pixel with S-byte samples.
-template <int E, int S>
-inline __m128i alpha_mask() {
-    alignas(16) unsigned char m[16];
-    for (int j = 0; j < 16; ++j) m[j] = (j % E) >= E - S ? 0xff : 0;
-    return _mm_load_si128(reinterpret_cast<const __m128i*>(m));
-}
-
-// Row operations of the mirror on pixels of C samples of T, A of them active.
-// `Alpha`: the sample after the A active ones keeps its place and value.
-template <class T, int C, int A>
-struct MirrorRows {
-    static constexpr int E = int(sizeof(T)) * C;
-    static constexpr bool kAlpha = A < C;
-    static constexpr bool kVec = vector_pixel(E) || E == 16;
-    static constexpr int n = 16 / E;
-
-    static void put(T* d, const T* s) {
-        for (int c = 0; c < A; ++c) d[c] = s[c];
-    }
-    static void swap(T* a, T* b) {
-        for (int c = 0; c < A; ++c) {
-            const T t = a[c];
-            a[c] = b[c];
-            b[c] = t;
-        }
-    }
-    static __m128i merge(__m128i v, __m128i old) {
-        if constexpr (kAlpha) return _mm_blendv_epi8(v, old, alpha_mask<E, int(sizeof(T))>());
-        else return v;
-    }
-
-    // d[x] = s[x], or streamed when nt.
-    static void copy(const T* s, T* d, int w, bool nt) {
-        if constexpr (!kAlpha) {
-            if (nt) stream_copy(d, s, std::size_t(w) * E);
-            else std::memcpy(d, s, std::size_t(w) * E);
-        } else {
-            int x = 0;
-            if constexpr (kVec)
-                for (; x + n <= w; x += n) storeu(d + x * C, merge(loadu(s + x * C), loadu(d + x * C)));
-            for (; x < w; ++x) put(d + x * C, s + x * C);
-        }
-    }
-
-    // d[x] = s[w - 1 - x].
-    static void reverse(const T* s, T* d, int w) {
-        int x = 0;
-        if constexpr (kVec) {
-            for (; x + n <= w; x += n) {
-                const __m128i v = reverse_pixels<E>(loadu(s + std::ptrdiff_t(w - x - n) * C));
-                storeu(d + x * C, merge(v, kAlpha ? loadu(d + x * C) : v));
-            }
-        } else if constexpr (E == 3 && !kAlpha) {
-            x = reverse_8u_c3(reinterpret_cast<const unsigned char*>(s), reinterpret_cast<unsigned char*>(d), w);
-        }
-        for (; x < w; ++x) put(d + x * C, s + std::ptrdiff_t(w - 1 - x) * C);
-    }
-
-    // 8u three channels: five pixels a shuffle; the 16th byte written is
-    // rewritten by the next step or by the scalar tail.
-    static int reverse_8u_c3(const unsigned char* s, unsigned char* d, int w) {
-        alignas(16) unsigned char m[16];
-        // Load starts one byte before the five source pixels.
-        for (int k = 0; k < 5; ++k)
-            for (int c = 0; c < 3; ++c) m[3 * k + c] = static_cast<unsigned char>(1 + 3 * (4 - k) + c);
-        m[15] = 0x80;
-        const __m128i mask = _mm_load_si128(reinterpret_cast<const __m128i*>(m));
-        int x = 0;
-        for (; x + 6 <= w; x += 5) storeu(d + 3 * x, _mm_shuffle_epi8(loadu(s + 3 * std::ptrdiff_t(w - x) - 16), mask));
-        return x;
-    }
-
-    // Rows a and b exchange their samples.
-    static void exchange(T* a, T* b, int w) {
-        int x = 0;
-        if constexpr (kVec) {
-            for (; x + n <= w; x += n) {
-                const __m128i va = loadu(a + x * C), vb = loadu(b + x * C);
-                storeu(a + x * C, merge(vb, va));
-                storeu(b + x * C, merge(va, vb));
-            }
-        }
-        for (; x < w; ++x) swap(a + x * C, b + x * C);
-    }
-
-    // New a[x] = old b[w-1-x] and new b[x] = old a[w-1-x]; a may equal b.
-    static void exchange_reversed(T* a, T* b, int w) {
-        int x = 0;
-        const bool same = a == b;
-        if constexpr (kVec) {
-            for (; same ? 2 * (x + n) <= w : x + n <= w; x += n) {
-                T* pb = b + std::ptrdiff_t(w - x - n) * C;
-                const __m128i va = loadu(a + x * C), vb = loadu(pb);
-                storeu(a + x * C, merge(reverse_pixels<E>(vb), va));
-                storeu(pb, merge(reverse_pixels<E>(va), vb));
-            }
-        }
-        for (const int end = same ? w / 2 : w; x < end; ++x) swap(a + x * C, b + std::ptrdiff_t(w - 1 - x) * C);
-    }
-};
 
 // Order of checks: size below 2 along a flipped axis is refused.
 inline ZelStatus mirror_checks(bool isNull, ZeliSize roi, int flip) {
@@ -408,17 +171,16 @@ inline ZelStatus mirror_checks(bool isNull, ZeliSize roi, int flip) {
 template <class T, Layout L>
 ZelStatus mirror_i(T* p, int step, ZeliSize roi, int flip) {
     if (ZelStatus st = mirror_checks(any_null(p), roi, flip)) return st;
-    using R = MirrorRows<T, channels(L), active(L)>;
     const int w = roi.width, h = roi.height;
+    auto line = [&](int r) { return reinterpret_cast<unsigned char*>(row(p, step, r)); };
+    const auto exchange = ZEL_PICK(MirrorRows<int(sizeof(T)), channels(L), active(L)>::exchange);
+    const auto exchangeReversed = ZEL_PICK(MirrorRows<int(sizeof(T)), channels(L), active(L)>::exchange_reversed);
     if (flip == 1) {
-        for (int r = 0; r < h; ++r) R::exchange_reversed(row(p, step, r), row(p, step, r), w);
+        for (int r = 0; r < h; ++r) exchangeReversed(line(r), line(r), w);
         return zelStatusOk;
     }
-    for (int r = 0; r < h / 2; ++r) {
-        if (flip == 0) R::exchange(row(p, step, r), row(p, step, h - 1 - r), w);
-        else R::exchange_reversed(row(p, step, r), row(p, step, h - 1 - r), w);
-    }
-    if (flip == 2 && (h & 1)) R::exchange_reversed(row(p, step, h / 2), row(p, step, h / 2), w);
+    for (int r = 0; r < h / 2; ++r) (flip == 0 ? exchange : exchangeReversed)(line(r), line(h - 1 - r), w);
+    if (flip == 2 && (h & 1)) exchangeReversed(line(h / 2), line(h / 2), w);
     return zelStatusOk;
 }
 
@@ -426,21 +188,22 @@ template <class T, Layout L>
 ZelStatus mirror(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi, int flip) {
     if (src == dst) return mirror_i<T, L>(dst, dstStep, roi, flip);
     if (ZelStatus st = mirror_checks(any_null(src, dst), roi, flip)) return st;
-    using R = MirrorRows<T, channels(L), active(L)>;
-    constexpr int E = R::E;
+    constexpr int E = int(sizeof(T)) * channels(L);
     const int w = roi.width, h = roi.height;
     bool nt = false;
     if constexpr (L == C4) nt = nontemporal(2ULL * std::uint64_t(w) * std::uint64_t(h) * E);
+    const auto copy = ZEL_PICK(MirrorRows<int(sizeof(T)), channels(L), active(L)>::copy);
+    const auto reverse = ZEL_PICK(MirrorRows<int(sizeof(T)), channels(L), active(L)>::reverse);
+    const StreamCopy put = nt ? ZEL_PICK(stream_copy) : nullptr;
     for (int r = 0; r < h; ++r) {
-        const T* s = row(src, srcStep, r);
-        T* d = row(dst, dstStep, flip == 1 ? r : h - 1 - r);
-        if (flip == 0) R::copy(s, d, w, nt);
-        else if (!nt) R::reverse(s, d, w);
+        auto* s = reinterpret_cast<const unsigned char*>(row(src, srcStep, r));
+        auto* d = reinterpret_cast<unsigned char*>(row(dst, dstStep, flip == 1 ? r : h - 1 - r));
+        if (flip == 0) copy(s, d, w, nt);
         else
-            chunked_row(d, w, channels(L), true, false,
-                        [&](T* out, int first, int n) { R::reverse(s + std::ptrdiff_t(w - first - n) * channels(L), out, n); });
+            chunked_row(d, w, E, put, false,
+                        [&](unsigned char* out, int first, int n) { reverse(s + std::ptrdiff_t(w - first - n) * E, out, n); });
     }
-    if (nt) _mm_sfence();
+    if (nt) stream_fence();
     return zelStatusOk;
 }
 

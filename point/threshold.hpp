@@ -1,12 +1,13 @@
 // Threshold: samples on one side of a level become the level or a value.
-// Each rule is a plain conditional on the sample, so a comparison with NaN is
-// false and the sample stays; the row loops are written for the compiler's
-// vectoriser, which keeps those semantics. The 16u members with a gate fork a
-// team over bands of rows and may stream their results past the cache.
+// Each rule is a comparison on the sample, so a comparison with NaN is false
+// and the sample stays. The entries check, spread the per-channel parameters
+// and walk the rows; the row kernels are in threshold_kernels.hpp, compiled
+// once per level. The 16u members with a gate fork a team over bands of rows
+// and may stream their results past the cache.
 #pragma once
 
+#include "core/chunks.hpp"
 #include "core/frame.hpp"
-#include "point/reorder_store.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -40,50 +41,30 @@ inline bool null_param(P p) {
 }
 
 // ---- Rules ---------------------------------------------------------------
-template <class T>
-struct ThrGT { // x above t gives t
-    ChannelParams<T> t;
-    T operator()(T x, int c) const { return x > t.v[c] ? t.v[c] : x; }
-};
-template <class T>
-struct ThrLT { // x below t gives t
-    ChannelParams<T> t;
-    T operator()(T x, int c) const { return x < t.v[c] ? t.v[c] : x; }
-};
-template <class T>
-struct ThrValGT { // x above t gives value
-    ChannelParams<T> t, v;
-    T operator()(T x, int c) const { return x > t.v[c] ? v.v[c] : x; }
-};
-template <class T>
-struct ThrValLT { // x below t gives value
-    ChannelParams<T> t, v;
-    T operator()(T x, int c) const { return x < t.v[c] ? v.v[c] : x; }
-};
-template <class T>
-struct ThrLTGT { // below tLT gives vLT, above tGT gives vGT
-    ChannelParams<T> tl, vl, tg, vg;
-    // The two sides cannot both hold (the upper level is not below the lower
-    // one), so the replacements can be applied one after the other.
-    T operator()(T x, int c) const {
-        const T upper = x > tg.v[c] ? vg.v[c] : x;
-        return x < tl.v[c] ? vl.v[c] : upper;
-    }
-};
+// GT: x above t gives t. LT: x below t gives t. GTVal: x above t gives v.
+// LTVal: x below t gives v. LTGT: x below t gives v, x above t2 gives v2 (the
+// upper level is not below the lower one, so at most one side holds).
+enum class Thr { GT, LT, GTVal, LTVal, LTGT };
 
-// d = rule(s) on the A active samples of each pixel; the rest stay.
-template <class T, int C, int A, class Rule>
-inline void threshold_row(const T* s, T* d, int w, Rule rule) {
-    // Each sample depends only on itself, so in-place rows vectorise as well.
-    if constexpr (C == 1) {
-#pragma omp simd
-        for (int x = 0; x < w; ++x) d[x] = rule(s[x], 0);
-    } else {
-#pragma omp simd
-        for (int x = 0; x < w; ++x)
-            for (int c = 0; c < A; ++c) d[std::ptrdiff_t(x) * C + c] = rule(s[std::ptrdiff_t(x) * C + c], c);
+// The levels and values of a call, channel by channel and repeated over
+// enough samples for any phase plus one vector of the widest level, so that a
+// kernel loads the parameters of a vector of samples from its phase.
+template <class T>
+struct ThrArgs {
+    static constexpr int kSpan = 64 + 4;
+    T t[kSpan], v[kSpan], t2[kSpan], v2[kSpan];
+
+    // From the parameters of the A active channels of C-sample pixels; the
+    // entries of inactive channels are never chosen.
+    ThrArgs(int C, int A, const ChannelParams<T>& lt, const ChannelParams<T>& lv, const ChannelParams<T>& gt = {},
+            const ChannelParams<T>& gv = {}) {
+        for (int j = 0; j < kSpan; ++j) {
+            const int c = j % C;
+            t[j] = c < A ? lt.v[c] : T(0), v[j] = c < A ? lv.v[c] : T(0);
+            t2[j] = c < A ? gt.v[c] : T(0), v2[j] = c < A ? gv.v[c] : T(0);
+        }
     }
-}
+};
 
 // The cache test of the 16u forms: asked above 0x40000 bytes, streaming above
 // half the cache, never in place.
@@ -93,11 +74,18 @@ inline bool threshold_nontemporal(unsigned long long volume, bool inPlace) {
     return cache_size(cache) && volume > (unsigned long long)(cache / 2);
 }
 
-// Runs the rule over the image. Gate > 0: fork over bands of rows when
-// width and height reach the gate and more than one thread is allowed, and
-// take the non-temporal choice.
-template <class T, Layout L, int Gate, class Rule>
-void threshold_image(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi, const Rule& rule) {
+} // namespace zel
+
+#define ZEL_KERNELS "point/threshold_kernels.hpp"
+#include "core/simd/levels.hpp"
+
+namespace zel {
+
+// Runs rule R over the image. Gate > 0: fork over bands of rows when width and
+// height reach the gate and more than one thread is allowed, and take the
+// non-temporal choice.
+template <class T, Layout L, int Gate, Thr R>
+void threshold_image(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi, const ThrArgs<T>& args) {
     constexpr int C = channels(L), A = active(L);
     bool nt = false;
     int team = 1;
@@ -109,15 +97,20 @@ void threshold_image(const T* src, int srcStep, T* dst, int dstStep, ZeliSize ro
             if (n > 1) team = n;
         }
     }
+    // Rows without gaps make one long row where no team shares them out.
+    const long long pixelBytes = C * (long long)sizeof(T);
+    if (team == 1 && contiguous(roi.width * pixelBytes, roi.height, 0x7fffffffLL * pixelBytes, srcStep, dstStep))
+        roi = {roi.width * roi.height, 1};
+    const auto k = ZEL_PICK(threshold_row<T, C, A, R>);
+    const StreamCopy put = nt ? ZEL_PICK(stream_copy) : nullptr;
     const int w = roi.width;
     bands_frame(roi.height, team, [&](int first, int rows, int) {
         for (int r = first; r < first + rows; ++r) {
             const T* s = row(src, srcStep, r);
-            chunked_row(row(dst, dstStep, r), w, C, nt, A < C, [&](T* out, int x0, int n) {
-                threshold_row<T, C, A>(s + std::ptrdiff_t(x0) * C, out, n, rule);
-            });
+            chunked_row(row(dst, dstStep, r), w, C, put, A < C,
+                        [&](T* out, int x0, int n) { k(s + std::ptrdiff_t(x0) * C, out, n, args); });
         }
-        if (nt) _mm_sfence();
+        if (put) stream_fence();
         return 0;
     });
 }
@@ -135,8 +128,9 @@ ZelStatus threshold(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi
     if (op != zelCmpLess && op != zelCmpGreater) return zelStatusBadMode;
     ChannelParams<T> t{};
     load_params<T, active(L)>(level, t);
-    if (op == zelCmpGreater) threshold_image<T, L, Gate>(src, srcStep, dst, dstStep, roi, ThrGT<T>{t});
-    else threshold_image<T, L, Gate>(src, srcStep, dst, dstStep, roi, ThrLT<T>{t});
+    const ThrArgs<T> args(channels(L), active(L), t, t);
+    if (op == zelCmpGreater) threshold_image<T, L, Gate, Thr::GT>(src, srcStep, dst, dstStep, roi, args);
+    else threshold_image<T, L, Gate, Thr::LT>(src, srcStep, dst, dstStep, roi, args);
     return zelStatusOk;
 }
 
@@ -150,8 +144,9 @@ ZelStatus threshold_val(const T* src, int srcStep, T* dst, int dstStep, ZeliSize
     ChannelParams<T> t{}, v{};
     load_params<T, active(L)>(level, t);
     load_params<T, active(L)>(value, v);
-    if (op == zelCmpGreater) threshold_image<T, L, Gate>(src, srcStep, dst, dstStep, roi, ThrValGT<T>{t, v});
-    else threshold_image<T, L, Gate>(src, srcStep, dst, dstStep, roi, ThrValLT<T>{t, v});
+    const ThrArgs<T> args(channels(L), active(L), t, v);
+    if (op == zelCmpGreater) threshold_image<T, L, Gate, Thr::GTVal>(src, srcStep, dst, dstStep, roi, args);
+    else threshold_image<T, L, Gate, Thr::LTVal>(src, srcStep, dst, dstStep, roi, args);
     return zelStatusOk;
 }
 
@@ -164,14 +159,14 @@ ZelStatus threshold_ltgt(const T* src, int srcStep, T* dst, int dstStep, ZeliSiz
         return zelStatusNullPointer;
     if (bad_size(roi)) return zelStatusBadSize;
     if (any_bad_step(srcStep, dstStep)) return zelStatusBadStep;
-    ThrLTGT<T> rule{};
-    load_params<T, active(L)>(levelLT, rule.tl);
-    load_params<T, active(L)>(valueLT, rule.vl);
-    load_params<T, active(L)>(levelGT, rule.tg);
-    load_params<T, active(L)>(valueGT, rule.vg);
+    ChannelParams<T> tl{}, vl{}, tg{}, vg{};
+    load_params<T, active(L)>(levelLT, tl);
+    load_params<T, active(L)>(valueLT, vl);
+    load_params<T, active(L)>(levelGT, tg);
+    load_params<T, active(L)>(valueGT, vg);
     for (int c = 0; c < active(L); ++c)
-        if (rule.tg.v[c] < rule.tl.v[c]) return zelStatusBadThreshold;
-    threshold_image<T, L, Gate>(src, srcStep, dst, dstStep, roi, rule);
+        if (tg.v[c] < tl.v[c]) return zelStatusBadThreshold;
+    threshold_image<T, L, Gate, Thr::LTGT>(src, srcStep, dst, dstStep, roi, ThrArgs<T>(channels(L), active(L), tl, vl, tg, vg));
     return zelStatusOk;
 }
 

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 #include <smmintrin.h>
 
+#include <climits>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -392,6 +393,24 @@ TEST(Arith, StatedValues) {
     EXPECT_EQ(q[0], INFINITY);
     EXPECT_EQ(q[1], -INFINITY);
     EXPECT_TRUE(std::isnan(q[2]));
+}
+
+// Any scale factor, however extreme, follows the bound cases of the rule.
+TEST(Arith, ExtremeScaleFactors) {
+    const Zel16sc a = {1, 0}, b = {32767, 0};
+    Zel16sc d = {5, 5};
+    EXPECT_EQ(zeliDiv_16sc_C1RSfs(&a, 4, &b, 4, &d, 4, {1, 1}, INT_MIN), zelStatusOk);
+    EXPECT_EQ(d.re, 32767);
+    EXPECT_EQ(d.im, 0);
+    EXPECT_EQ(zeliDiv_16sc_C1RSfs(&a, 4, &b, 4, &d, 4, {1, 1}, INT_MAX), zelStatusOk);
+    EXPECT_EQ(d.re, 0);
+    Zel8u x = 3, y = 4, z = 0;
+    EXPECT_EQ(zeliAdd_8u_C1RSfs(&x, 1, &y, 1, &z, 1, {1, 1}, INT_MIN), zelStatusOk);
+    EXPECT_EQ(z, 255);
+    EXPECT_EQ(zeliMul_8u_C1RSfs(&x, 1, &y, 1, &z, 1, {1, 1}, INT_MAX), zelStatusOk);
+    EXPECT_EQ(z, 0);
+    EXPECT_EQ(zeliDiv_8u_C1RSfs(&x, 1, &y, 1, &z, 1, {1, 1}, INT_MIN), zelStatusOk);
+    EXPECT_EQ(z, 255);
 }
 
 TEST(Arith, OrderOfChecks) {

@@ -48,53 +48,41 @@ std::vector<std::uint8_t> expected(Kind kind, const Geometry& g, int ch, bool ac
 }
 
 
-// Non-in-place form: fn(src, srcStep, srcSize, dst, dstStep, dstSize, top, left[, value]).
+// Both forms over every geometry, padded rows and both guard placements.
+// Copy: fn(src, srcStep, srcSize, dst, dstStep, dstSize, top, left, value).
+// In place (`ip`): the destination holds the source at (left, top); only the
+// frame may change: fn(srcDst, step, srcSize, dstSize, top, left).
 template <class T, class Call>
-void check_copy(const std::string& name, Kind kind, int ch, bool ac4, Call call) {
-    std::uint32_t seed = 3;
+void check(const std::string& name, Kind kind, int ch, bool ac4, bool ip, Call call) {
+    std::uint32_t seed = ip ? 99 : 3;
     const T value[4] = {T(11), T(-7), T(100), T(42)};
-    for (const Geometry& g : kGeometries)
-        for (int extra : {0, 3}) {
-            zt::Image<T> src(g.sw, g.sh, ch, extra * int(sizeof(T)));
-            zt::Image<T> dst(g.dw, g.dh, ch, extra * 2 * int(sizeof(T)), extra ? zt::Flush::Head : zt::Flush::Tail,
-                             extra * sizeof(T));
-            src.fill_random(++seed);
-            dst.fill_random(++seed);
-            const auto old = dst.bytes();
-            ASSERT_EQ(call(src.ptr(), src.step(), src.size(), dst.ptr(), dst.step(), dst.size(), g.top, g.left, value), 0)
-                << name;
-            auto e = expected<T>(kind, g, ch, ac4, dst.step(), old, [&](int x, int y, int c) { return src.at(x, y, c); },
-                                 value, false);
-            ASSERT_TRUE(dst.bytes() == e) << name << " geometry " << g.sw << "x" << g.sh << " in " << g.dw << "x" << g.dh
-                                          << " at " << g.left << "," << g.top << " extra " << extra;
-        }
-}
-
-// In-place form: the destination holds the source at (left, top); only the
-// frame may change, and nothing outside the destination is touched.
-template <class T, class Call>
-void check_in_place(const std::string& name, Kind kind, int ch, bool ac4, Call call) {
-    std::uint32_t seed = 99;
     for (const Geometry& g : kGeometries)
         for (int extra : {0, 3})
             for (zt::Flush flush : {zt::Flush::Head, zt::Flush::Tail}) {
-                zt::Image<T> img(g.dw, g.dh, ch, extra * int(sizeof(T)), flush, extra * sizeof(T));
-                img.fill_random(++seed);
-                const auto old = img.bytes();
-                T* srcDst = &img.at(g.left, g.top);
-                ASSERT_EQ(call(srcDst, img.step(), ZeliSize{g.sw, g.sh}, img.size(), g.top, g.left), 0) << name;
-                auto e = expected<T>(kind, g, ch, ac4, img.step(), old,
-                                     [&](int x, int y, int c) {
-                                         T v;
-                                         std::memcpy(&v, old.data() + std::size_t(y + g.top) * img.step() +
-                                                             (std::size_t(x + g.left) * ch + c) * sizeof(T), sizeof(T));
-                                         return v;
-                                     },
-                                     static_cast<const T*>(nullptr), true);
-                ASSERT_TRUE(img.bytes() == e) << name << " in place " << g.sw << "x" << g.sh << " in " << g.dw << "x" << g.dh
-                                              << " at " << g.left << "," << g.top;
+                zt::Image<T> src(ip ? 1 : g.sw, ip ? 1 : g.sh, ch, extra * int(sizeof(T)));
+                zt::Image<T> dst(g.dw, g.dh, ch, extra * 2 * int(sizeof(T)), flush, extra * sizeof(T));
+                src.fill_random(++seed);
+                dst.fill_random(++seed);
+                const auto old = dst.bytes();
+                auto at = [&](int x, int y, int c) {
+                    if (!ip) return src.at(x, y, c);
+                    T v;
+                    std::memcpy(&v, old.data() + std::size_t(y + g.top) * dst.step() + (std::size_t(x + g.left) * ch + c) * sizeof(T), sizeof(T));
+                    return v;
+                };
+                const auto want = expected<T>(kind, g, ch, ac4, dst.step(), old, at, value, ip);
+                if constexpr (std::is_invocable<Call, T*, int, ZeliSize, ZeliSize, int, int>::value)
+                    ASSERT_EQ(call(&dst.at(g.left, g.top), dst.step(), ZeliSize{g.sw, g.sh}, dst.size(), g.top, g.left), 0) << name;
+                else
+                    ASSERT_EQ(call(src.ptr(), src.step(), src.size(), dst.ptr(), dst.step(), dst.size(), g.top, g.left, value), 0) << name;
+                ASSERT_TRUE(dst.bytes() == want) << name << " geometry " << g.sw << "x" << g.sh << " in " << g.dw << "x" << g.dh
+                                                 << " at " << g.left << "," << g.top << " extra " << extra;
             }
 }
+template <class T, class Call>
+void check_copy(const std::string& name, Kind kind, int ch, bool ac4, Call call) { check<T>(name, kind, ch, ac4, false, call); }
+template <class T, class Call>
+void check_in_place(const std::string& name, Kind kind, int ch, bool ac4, Call call) { check<T>(name, kind, ch, ac4, true, call); }
 
 #define LAYOUTS(M, T) M(T, C1, 1, false) M(T, C3, 3, false) M(T, C4, 4, false) M(T, AC4, 4, true)
 #define CONST_V(T, L, CH, AC, ARG)                                                                              \

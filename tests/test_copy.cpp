@@ -1,443 +1,360 @@
-// Copy, set, duplicate and managed copy against per-pixel references, on
-// guarded images: width sweeps, padded and unaligned rows, steps of 0 and
-// negative steps, masks, forced non-temporal stores and the order of checks.
+// Copy, set, duplicate and managed copy against per-pixel references on
+// guarded images. The members come from their declaration list; the form in
+// each name says what moves where, so one byte-level reference per form
+// covers every sample type: width sweeps, padded and unaligned rows, zero and
+// negative steps, masks, the non-temporal paths and the order of checks.
 #include "guard.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <functional>
+#include <map>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
 
 using u8 = std::uint8_t;
 
-// Row r of a buffer of bytes with the given step.
-template <class T>
-T* rowp(T* base, int step, int r) {
-    return reinterpret_cast<T*>(reinterpret_cast<u8*>(const_cast<std::remove_const_t<T>*>(base)) + std::ptrdiff_t(r) * step);
+// One argument of any parameter type: a pointer, a size, or the bytes of a
+// number (an int, or a sample value).
+struct Arg {
+    const void* p = nullptr;
+    ZeliSize s{};
+    alignas(8) unsigned char raw[8] = {};
+    Arg(const void* ptr) : p(ptr) {}
+    Arg(ZeliSize size) : s(size) {}
+    Arg(int v) { std::memcpy(raw, &v, sizeof v); }
+    static Arg bytes(const void* v, std::size_t n) {
+        Arg a(0);
+        std::memcpy(a.raw, v, n);
+        return a;
+    }
+    template <class P>
+    P as() const {
+        if constexpr (std::is_pointer<P>::value) return reinterpret_cast<P>(const_cast<void*>(p));
+        else if constexpr (std::is_same<P, ZeliSize>::value) return s;
+        else {
+            P v;
+            std::memcpy(&v, raw, sizeof v);
+            return v;
+        }
+    }
+};
+using Args = std::vector<Arg>;
+using Fn = std::function<ZelStatus(const Args&)>;
+
+template <class... P, std::size_t... I>
+ZelStatus invoke(ZelStatus (*f)(P...), const Args& a, std::index_sequence<I...>) {
+    return f(a[I].template as<P>()...);
+}
+template <class... P>
+Fn caller(ZelStatus (*f)(P...)) {
+    return [f](const Args& a) { return invoke(f, a, std::index_sequence_for<P...>{}); };
 }
 
-// Geometry variants: padding of source and destination rows, and where the
-// buffers sit (overrun traps, or underrun traps with an unaligned start).
-struct Variant {
-    int extraSrc, extraDst; // in samples
-    zt::Flush flush;
-    int offset; // in samples
-};
-const Variant kVariants[] = {
-    {0, 0, zt::Flush::Tail, 0}, {5, 0, zt::Flush::Tail, 0}, {0, 9, zt::Flush::Head, 1}, {3, 17, zt::Flush::Head, 3}};
-const int kHeights[] = {3};
+// name -> caller, from the declaration list.
+const std::map<std::string, Fn>& list() {
+#define ZEL_FN(ret, name, params, args, impl) {#name, caller(&name)},
+    static const std::map<std::string, Fn> m = {
+#include "zelip8/fn_copy.h"
+    };
+#undef ZEL_FN
+    return m;
+}
+const char* const kTypes[] = {"8u", "16s", "16u", "32f", "32s"};
+int sample_bytes(const std::string& t) { return t == "8u" ? 1 : t[0] == '1' ? 2 : 4; }
+const Fn& fn(const std::string& op, const std::string& t, const std::string& form) {
+    return list().at("zeli" + op + "_" + t + "_" + form);
+}
 
-// Mask bytes: blocks of 16 that are all zero, all set (any non-zero value) or mixed.
-void fill_mask(zt::Image<u8>& m, std::uint32_t seed) {
-    std::mt19937 rng(seed);
-    for (int y = 0; y < m.height(); ++y)
-        for (int x0 = 0; x0 < m.width(); x0 += 16) {
-            const int kind = int(rng() % 3);
-            for (int x = x0; x < x0 + 16 && x < m.width(); ++x) {
-                u8 v = u8(rng());
-                if (kind == 0) v = 0;
-                if (kind == 1 && v == 0) v = 1;
-                if (kind == 2) v = (rng() & 1) ? v : 0;
-                m.at(x, y) = v;
+// Geometry variants: padding of source and destination rows (samples), and
+// where the buffers sit (overrun traps, or underrun traps after an unaligned start).
+struct Variant {
+    int extraSrc, extraDst;
+    zt::Flush flush;
+    int offset;
+};
+const Variant kVariants[] = {{0, 0, zt::Flush::Tail, 0}, {5, 0, zt::Flush::Tail, 0}, {3, 17, zt::Flush::Head, 3}};
+
+using Image = zt::Image<u8>; // width in samples times sample bytes
+Image image(int w, int h, int samples, int sb, const Variant& v, bool src) {
+    return Image(w * sb, h, samples, (src ? v.extraSrc : v.extraDst) * sb, v.flush, std::size_t(v.offset) * sb);
+}
+
+// A two-image form: source and destination samples a pixel, samples moved,
+// the first source sample spread over all of them (Dup), and the channel of
+// interest moving the source (s) or the destination (d) pointer.
+struct Move {
+    const char* op;
+    const char* form;
+    int sc, dc, n;
+    bool spread;
+    const char* coi;
+};
+const Move kMoves[] = {
+    {"Copy", "C1R", 1, 1, 1, false, ""},    {"Copy", "C3R", 3, 3, 3, false, ""},     {"Copy", "C4R", 4, 4, 4, false, ""},
+    {"Copy", "AC4R", 4, 4, 3, false, ""},   {"Copy", "AC4C3R", 4, 3, 3, false, ""},  {"Copy", "C3AC4R", 3, 4, 3, false, ""},
+    {"Copy", "C3CR", 3, 3, 1, false, "sd"}, {"Copy", "C4CR", 4, 4, 1, false, "sd"},  {"Copy", "C3C1R", 3, 1, 1, false, "s"},
+    {"Copy", "C4C1R", 4, 1, 1, false, "s"}, {"Copy", "C1C3R", 1, 3, 1, false, "d"},  {"Copy", "C1C4R", 1, 4, 1, false, "d"},
+    {"Dup", "C1C3R", 1, 3, 3, true, ""},    {"Dup", "C1C4R", 1, 4, 4, true, ""}};
+
+// The reference of one row of a move: samples are byte blocks of sb.
+void move_row(const Move& m, int sb, const u8* s, u8* d, int w) {
+    for (int x = 0; x < w; ++x)
+        for (int c = 0; c < m.n; ++c)
+            std::memcpy(d + (std::size_t(x) * m.dc + c) * sb, s + (std::size_t(x) * m.sc + (m.spread ? 0 : c)) * sb, sb);
+}
+
+TEST(Copy, EveryTwoImageFormAndType) {
+    std::uint32_t seed = 1;
+    for (const Move& m : kMoves)
+        for (const char* t : kTypes) {
+            if (std::string(m.op) == "Dup" && std::string(t) != "8u") continue;
+            const Fn& f = fn(m.op, t, m.form);
+            const int sb = sample_bytes(t);
+            const int k = std::string(m.coi).empty() ? 0 : (m.sc > 1 ? m.sc : m.dc) - 1; // the last channel
+            const int so = std::strchr(m.coi, 's') ? k * sb : 0, dof = std::strchr(m.coi, 'd') ? k * sb : 0;
+            for (const Variant& v : kVariants)
+                for (int w : zt::sweep_widths()) {
+                    const std::string at = std::string(m.op) + " " + t + " " + m.form + " width " + std::to_string(w);
+                    Image src = image(w, 3, m.sc, sb, v, true), dst = image(w, 3, m.dc, sb, v, false);
+                    src.fill_random(seed++);
+                    dst.fill_random(seed++);
+                    std::vector<u8> want = dst.bytes();
+                    for (int r = 0; r < 3; ++r) move_row(m, sb, src.row(r) + so, want.data() + std::size_t(r) * dst.step() + dof, w);
+                    ASSERT_EQ(f({src.ptr() + so, src.step(), dst.ptr() + dof, dst.step(), ZeliSize{w, 3}}), zelStatusOk) << at;
+                    ASSERT_EQ(dst.bytes(), want) << at << " variant " << (&v - kVariants);
+                }
+            // Rows walked by a negative destination step land upside down; by
+            // a zero step they all go to one row and the last one stays.
+            for (int w : {5, 100}) {
+                Image src(w * sb, 4, m.sc, 2 * sb), dst(w * sb, 4, m.dc), one(w * sb, 1, m.dc);
+                src.fill_random(seed++);
+                dst.fill_random(seed++);
+                std::vector<u8> want = dst.bytes(), wantOne = one.bytes();
+                for (int r = 0; r < 4; ++r) {
+                    move_row(m, sb, src.row(r) + so, want.data() + std::size_t(3 - r) * dst.step() + dof, w);
+                    move_row(m, sb, src.row(r) + so, wantOne.data() + dof, w);
+                }
+                ASSERT_EQ(f({src.ptr() + so, src.step(), dst.row(3) + dof, -dst.step(), ZeliSize{w, 4}}), zelStatusOk);
+                ASSERT_EQ(f({src.ptr() + so, src.step(), one.ptr() + dof, 0, ZeliSize{w, 4}}), zelStatusOk);
+                ASSERT_EQ(dst.bytes(), want) << m.form << " " << t << " negative step";
+                ASSERT_EQ(one.bytes(), wantOne) << m.form << " " << t << " zero step";
             }
         }
 }
 
-// ---- Two-image forms ------------------------------------------------------------
-// call(src, srcStep, dst, dstStep, roi) against ref(srcRow, dstRow, width); the
-// source has sc samples a pixel, the destination dc; both pointers are moved
-// by `channel` samples where the form addresses a channel of interest.
-template <class T>
-using Call2 = std::function<ZelStatus(const T*, int, T*, int, ZeliSize)>;
-template <class T>
-using RowRef = std::function<void(const T*, T*, int)>;
-
-template <class T>
-void check_pair(const std::string& name, int sc, int sOff, int dc, int dOff, Call2<T> call, RowRef<T> ref) {
-    std::uint32_t seed = 1;
-    for (const Variant& v : kVariants)
-        for (int h : kHeights)
-            for (int w : zt::sweep_widths()) {
-                const int es = v.extraSrc * sizeof(T), ed = v.extraDst * sizeof(T), off = v.offset * sizeof(T);
-                zt::Image<T> src(w, h, sc, es, v.flush, off), dst(w, h, dc, ed, v.flush, off);
-                src.fill_random(seed++);
-                dst.fill_random(seed++);
-                std::vector<u8> expect = dst.bytes();
-                for (int r = 0; r < h; ++r)
-                    ref(src.row(r) + sOff, reinterpret_cast<T*>(expect.data() + std::ptrdiff_t(r) * dst.step()) + dOff, w);
-                ASSERT_EQ(call(src.ptr() + sOff, src.step(), dst.ptr() + dOff, dst.step(), {w, h}), zelStatusOk)
-                    << name;
-                ASSERT_EQ(dst.bytes(), expect) << name << " width " << w << " height " << h << " variant " << (&v - kVariants);
+// Mask bytes in blocks of 16 that are all zero, all set (any non-zero value) or mixed.
+void fill_mask(Image& m, std::uint32_t seed) {
+    std::mt19937 rng(seed);
+    for (int y = 0; y < m.height(); ++y)
+        for (int x0 = 0; x0 < m.width(); x0 += 16) {
+            const unsigned kind = rng() % 3;
+            for (int x = x0; x < x0 + 16 && x < m.width(); ++x) {
+                const u8 v = u8(rng() | 1);
+                m.at(x, y) = kind == 0 ? 0 : kind == 1 || (rng() & 1) ? v : 0;
             }
+        }
 }
 
-// Rows walked by a step of 0 and by a negative step.
-template <class T>
-void check_odd_steps(const std::string& name, int sc, int dc, Call2<T> call, RowRef<T> ref) {
-    for (int w : {5, 64, 100}) {
-        const int h = 4;
-        zt::Image<T> src(w, h, sc, 2 * sizeof(T)), dst(w, h, dc), one(w, 1, dc);
-        src.fill_random(7);
-        dst.fill_random(8);
-        one.fill_random(9);
-        // Negative destination step: the source's rows land upside down.
-        std::vector<u8> expect = dst.bytes();
-        for (int r = 0; r < h; ++r) ref(src.row(r), reinterpret_cast<T*>(expect.data() + std::ptrdiff_t(h - 1 - r) * dst.step()), w);
-        ASSERT_EQ(call(src.ptr(), src.step(), dst.row(h - 1), -dst.step(), {w, h}), zelStatusOk);
-        ASSERT_EQ(dst.bytes(), expect) << name << " negative step, width " << w;
-        // Destination step 0: every row goes to the same row; the last one stays.
-        expect = one.bytes();
-        for (int r = 0; r < h; ++r) ref(src.row(r), reinterpret_cast<T*>(expect.data()), w);
-        ASSERT_EQ(call(src.ptr(), src.step(), one.ptr(), 0, {w, h}), zelStatusOk);
-        ASSERT_EQ(one.bytes(), expect) << name << " zero step, width " << w;
-    }
-}
-
-// Every two-image member of one sample type.
-template <class T>
-struct Members {
-    Call2<T> c1, c3, c4, ac4, c3cr, c4cr, c3c1, c4c1, c1c3, c1c4, ac4c3, c3ac4;
-    std::function<ZelStatus(const T*, int, T*, int, ZeliSize, const u8*, int)> m[4]; // C1, C3, C4, AC4
-    std::function<ZelStatus(const T*, int, T* const*, int, ZeliSize)> c3p3, c4p4;
-    std::function<ZelStatus(const T* const*, int, T*, int, ZeliSize)> p3c3, p4c4;
-    ZelStatus (*set1)(T, T*, int, ZeliSize);
-    ZelStatus (*set3)(const T*, T*, int, ZeliSize);
-    ZelStatus (*set4)(const T*, T*, int, ZeliSize);
-    ZelStatus (*setA)(const T*, T*, int, ZeliSize);
-    ZelStatus (*setCR[2])(T, T*, int, ZeliSize);
-    ZelStatus (*setM1)(T, T*, int, ZeliSize, const u8*, int);
-    ZelStatus (*setM[3])(const T*, T*, int, ZeliSize, const u8*, int); // C3, C4, AC4
-};
-
-#define ZT_MEMBERS(T)                                                                                             \
-    Members<Zel##T> {                                                                                             \
-        zeliCopy_##T##_C1R, zeliCopy_##T##_C3R, zeliCopy_##T##_C4R, zeliCopy_##T##_AC4R, zeliCopy_##T##_C3CR,    \
-            zeliCopy_##T##_C4CR, zeliCopy_##T##_C3C1R, zeliCopy_##T##_C4C1R, zeliCopy_##T##_C1C3R,              \
-            zeliCopy_##T##_C1C4R, zeliCopy_##T##_AC4C3R, zeliCopy_##T##_C3AC4R,                                 \
-            {zeliCopy_##T##_C1MR, zeliCopy_##T##_C3MR, zeliCopy_##T##_C4MR, zeliCopy_##T##_AC4MR},               \
-            zeliCopy_##T##_C3P3R, zeliCopy_##T##_C4P4R, zeliCopy_##T##_P3C3R, zeliCopy_##T##_P4C4R,             \
-            zeliSet_##T##_C1R, zeliSet_##T##_C3R, zeliSet_##T##_C4R, zeliSet_##T##_AC4R,                        \
-            {zeliSet_##T##_C3CR, zeliSet_##T##_C4CR}, zeliSet_##T##_C1MR,                                       \
-            {zeliSet_##T##_C3MR, zeliSet_##T##_C4MR, zeliSet_##T##_AC4MR},                                      \
-    }
-
-template <class T>
-Members<T> members();
-template <> Members<Zel8u> members() { return ZT_MEMBERS(8u); }
-template <> Members<Zel16s> members() { return ZT_MEMBERS(16s); }
-template <> Members<Zel16u> members() { return ZT_MEMBERS(16u); }
-template <> Members<Zel32s> members() { return ZT_MEMBERS(32s); }
-template <> Members<Zel32f> members() { return ZT_MEMBERS(32f); }
-
-// References: what each form does to one row, from its definition.
-template <class T>
-RowRef<T> ref_move(int sp, int dp, int n) {
-    return [=](const T* s, T* d, int w) {
-        for (int x = 0; x < w; ++x)
-            for (int c = 0; c < n; ++c) std::memcpy(&d[x * dp + c], &s[x * sp + c], sizeof(T));
-    };
-}
-
-template <class T>
-class CopyTyped : public ::testing::Test {};
-using SampleTypes = ::testing::Types<Zel8u, Zel16s, Zel16u, Zel32s, Zel32f>;
-TYPED_TEST_SUITE(CopyTyped, SampleTypes);
-
-TYPED_TEST(CopyTyped, PixelForms) {
-    using T = TypeParam;
-    const Members<T> f = members<T>();
-    check_pair<T>("C1R", 1, 0, 1, 0, f.c1, ref_move<T>(1, 1, 1));
-    check_pair<T>("C3R", 3, 0, 3, 0, f.c3, ref_move<T>(3, 3, 3));
-    check_pair<T>("C4R", 4, 0, 4, 0, f.c4, ref_move<T>(4, 4, 4));
-    check_pair<T>("AC4R", 4, 0, 4, 0, f.ac4, ref_move<T>(4, 4, 3)); // alpha stays
-    check_pair<T>("AC4C3R", 4, 0, 3, 0, f.ac4c3, ref_move<T>(4, 3, 3));
-    check_pair<T>("C3AC4R", 3, 0, 4, 0, f.c3ac4, ref_move<T>(3, 4, 3));
-    for (int k : {0, 2}) {
-        check_pair<T>("C3CR", 3, k, 3, k, f.c3cr, ref_move<T>(3, 3, 1));
-        check_pair<T>("C3C1R", 3, k, 1, 0, f.c3c1, ref_move<T>(3, 1, 1));
-        check_pair<T>("C1C3R", 1, 0, 3, k, f.c1c3, ref_move<T>(1, 3, 1));
-    }
-    for (int k : {0, 3}) {
-        check_pair<T>("C4CR", 4, k, 4, k, f.c4cr, ref_move<T>(4, 4, 1));
-        check_pair<T>("C4C1R", 4, k, 1, 0, f.c4c1, ref_move<T>(4, 1, 1));
-        check_pair<T>("C1C4R", 1, 0, 4, k, f.c1c4, ref_move<T>(1, 4, 1));
-    }
-}
-
-TYPED_TEST(CopyTyped, OddSteps) {
-    using T = TypeParam;
-    const Members<T> f = members<T>();
-    check_odd_steps<T>("C1R", 1, 1, f.c1, ref_move<T>(1, 1, 1));
-    check_odd_steps<T>("C3R", 3, 3, f.c3, ref_move<T>(3, 3, 3));
-    check_odd_steps<T>("AC4R", 4, 4, f.ac4, ref_move<T>(4, 4, 3));
-    check_odd_steps<T>("C3C1R", 3, 1, f.c3c1, ref_move<T>(3, 1, 1));
-    // Source step 0: every destination row is the first source row.
-    zt::Image<T> src(70, 1, 3), dst(70, 5, 3, 4 * sizeof(T));
-    src.fill_random(3);
-    dst.fill_random(4);
-    ASSERT_EQ(f.c3(src.ptr(), 0, dst.ptr(), dst.step(), {70, 5}), zelStatusOk);
-    for (int r = 0; r < 5; ++r) ASSERT_EQ(std::memcmp(dst.row(r), src.ptr(), 70 * 3 * sizeof(T)), 0);
-}
-
-TYPED_TEST(CopyTyped, Masked) {
-    using T = TypeParam;
-    const Members<T> f = members<T>();
-    const int ch[4] = {1, 3, 4, 4}, act[4] = {1, 3, 4, 3};
+TEST(Copy, MaskedCopyAndSet) {
+    const char* forms[] = {"C1", "C3", "C4", "AC4"};
+    const int ch[] = {1, 3, 4, 4}, act[] = {1, 3, 4, 3};
     std::uint32_t seed = 11;
-    for (int form = 0; form < 4; ++form)
-        for (const Variant& v : kVariants)
-            for (int w : zt::sweep_widths()) {
-                const int h = 3, c = ch[form];
-                zt::Image<T> src(w, h, c, v.extraSrc * sizeof(T), v.flush, v.offset * sizeof(T));
-                zt::Image<T> dst(w, h, c, v.extraDst * sizeof(T), v.flush, v.offset * sizeof(T));
-                zt::Image<u8> mask(w, h, 1, v.extraSrc, v.flush, v.offset);
-                src.fill_random(seed++);
-                dst.fill_random(seed++);
-                fill_mask(mask, seed++);
-                std::vector<u8> expect = dst.bytes();
-                for (int y = 0; y < h; ++y)
-                    for (int x = 0; x < w; ++x)
-                        if (mask.at(x, y))
-                            ref_move<T>(c, c, act[form])(&src.at(x, y),
-                                reinterpret_cast<T*>(expect.data() + std::ptrdiff_t(y) * dst.step()) + x * c, 1);
-                ASSERT_EQ(f.m[form](src.ptr(), src.step(), dst.ptr(), dst.step(), {w, h}, mask.ptr(), mask.step()),
-                          zelStatusOk);
-                ASSERT_EQ(dst.bytes(), expect) << "masked form " << form << " width " << w;
-
-                // The masked set writes the value where the copy wrote the source.
-                T vals[4];
-                for (int k = 0; k < 4; ++k) vals[k] = T(37 * k + 5);
-                expect = dst.bytes();
-                for (int y = 0; y < h; ++y)
-                    for (int x = 0; x < w; ++x)
-                        if (mask.at(x, y))
-                            for (int k = 0; k < act[form]; ++k)
-                                reinterpret_cast<T*>(expect.data() + std::ptrdiff_t(y) * dst.step())[x * c + k] = vals[k];
-                const ZelStatus st = form == 0 ? f.setM1(vals[0], dst.ptr(), dst.step(), {w, h}, mask.ptr(), mask.step())
-                                               : f.setM[form - 1](vals, dst.ptr(), dst.step(), {w, h}, mask.ptr(), mask.step());
-                ASSERT_EQ(st, zelStatusOk);
-                ASSERT_EQ(dst.bytes(), expect) << "masked set form " << form << " width " << w;
-            }
+    for (const char* t : kTypes)
+        for (int form = 0; form < 4; ++form) {
+            const int sb = sample_bytes(t), c = ch[form];
+            const Fn& copy = fn("Copy", t, std::string(forms[form]) + "MR");
+            const Fn& set = fn("Set", t, std::string(forms[form]) + "MR");
+            u8 value[32];
+            for (int k = 0; k < 32; ++k) value[k] = u8(37 * k + 5);
+            for (const Variant& v : kVariants)
+                for (int w : zt::sweep_widths()) {
+                    Image src = image(w, 3, c, sb, v, true), dst = image(w, 3, c, sb, v, false);
+                    Image mask(w, 3, 1, v.extraSrc, v.flush, v.offset);
+                    src.fill_random(seed++);
+                    dst.fill_random(seed++);
+                    fill_mask(mask, seed++);
+                    std::vector<u8> want = dst.bytes();
+                    auto masked = [&](auto sample) {
+                        for (int y = 0; y < 3; ++y)
+                            for (int x = 0; x < w; ++x)
+                                if (mask.at(x, y))
+                                    for (int k = 0; k < act[form]; ++k)
+                                        std::memcpy(want.data() + std::size_t(y) * dst.step() + (std::size_t(x) * c + k) * sb,
+                                                    sample(x, y, k), sb);
+                    };
+                    masked([&](int x, int y, int k) { return src.row(y) + (std::size_t(x) * c + k) * sb; });
+                    const ZeliSize roi{w, 3};
+                    ASSERT_EQ(copy({src.ptr(), src.step(), dst.ptr(), dst.step(), roi, mask.ptr(), mask.step()}), zelStatusOk);
+                    ASSERT_EQ(dst.bytes(), want) << "masked copy " << t << " " << forms[form] << " width " << w;
+                    masked([&](int, int, int k) { return value + k * sb; });
+                    const Arg val = form == 0 ? Arg::bytes(value, sb) : Arg(value);
+                    ASSERT_EQ(set({val, dst.ptr(), dst.step(), roi, mask.ptr(), mask.step()}), zelStatusOk);
+                    ASSERT_EQ(dst.bytes(), want) << "masked set " << t << " " << forms[form] << " width " << w;
+                }
+        }
 }
 
-TYPED_TEST(CopyTyped, Planar) {
-    using T = TypeParam;
-    const Members<T> f = members<T>();
+TEST(Copy, PlanarBothWays) {
     std::uint32_t seed = 21;
-    for (int c : {3, 4})
-        for (const Variant& v : kVariants)
-            for (int h : kHeights)
+    for (const char* t : kTypes)
+        for (int c : {3, 4}) {
+            const int sb = sample_bytes(t);
+            const std::string n = std::to_string(c);
+            const Fn& split = fn("Copy", t, "C" + n + "P" + n + "R");
+            const Fn& join = fn("Copy", t, "P" + n + "C" + n + "R");
+            for (const Variant& v : kVariants)
                 for (int w : zt::sweep_widths()) {
-                    zt::Image<T> inter(w, h, c, v.extraSrc * sizeof(T), v.flush, v.offset * sizeof(T));
-                    std::vector<zt::Image<T>> planes;
-                    for (int k = 0; k < c; ++k)
-                        planes.emplace_back(w, h, 1, v.extraDst * sizeof(T), v.flush, (v.offset + k) * sizeof(T));
+                    Image inter = image(w, 3, c, sb, v, true);
+                    std::vector<Image> planes;
+                    for (int k = 0; k < c; ++k) planes.emplace_back(w * sb, 3, 1, v.extraDst * sb, v.flush, std::size_t(v.offset + k) * sb);
                     inter.fill_random(seed++);
-                    for (auto& p : planes) p.fill_random(seed++);
-                    T* pp[4];
+                    for (Image& p : planes) p.fill_random(seed++);
+                    u8* pp[4] = {};
                     for (int k = 0; k < c; ++k) pp[k] = planes[k].ptr();
                     const int ps = planes[0].step();
-                    // Interleaved to planar.
-                    ASSERT_EQ((c == 3 ? f.c3p3 : f.c4p4)(inter.ptr(), inter.step(), pp, ps, {w, h}), zelStatusOk);
+                    ASSERT_EQ(split({inter.ptr(), inter.step(), pp, ps, ZeliSize{w, 3}}), zelStatusOk);
                     for (int k = 0; k < c; ++k)
-                        for (int y = 0; y < h; ++y)
+                        for (int y = 0; y < 3; ++y)
                             for (int x = 0; x < w; ++x)
-                                ASSERT_EQ(std::memcmp(&planes[k].at(x, y), &inter.at(x, y, k), sizeof(T)), 0)
-                                    << "to planes, channels " << c << " width " << w << " plane " << k;
-                    // Planar to interleaved, from fresh planes.
-                    for (auto& p : planes) p.fill_random(seed++);
-                    std::vector<u8> expect = inter.bytes();
-                    for (int y = 0; y < h; ++y)
+                                ASSERT_EQ(std::memcmp(planes[k].row(y) + x * sb, inter.row(y) + (x * c + k) * sb, sb), 0)
+                                    << "to planes " << t << " C" << c << " width " << w << " plane " << k << " x " << x;
+                    for (Image& p : planes) p.fill_random(seed++);
+                    std::vector<u8> want = inter.bytes();
+                    for (int y = 0; y < 3; ++y)
                         for (int x = 0; x < w; ++x)
                             for (int k = 0; k < c; ++k)
-                                std::memcpy(expect.data() + std::ptrdiff_t(y) * inter.step() + (x * c + k) * sizeof(T),
-                                            &planes[k].at(x, y), sizeof(T));
-                    const T* cp[4] = {pp[0], pp[1], pp[2], pp[3]};
-                    ASSERT_EQ((c == 3 ? f.p3c3 : f.p4c4)(cp, ps, inter.ptr(), inter.step(), {w, h}), zelStatusOk);
-                    ASSERT_EQ(inter.bytes(), expect) << "from planes, channels " << c << " width " << w;
+                                std::memcpy(want.data() + std::size_t(y) * inter.step() + (x * c + k) * sb, planes[k].row(y) + x * sb, sb);
+                    ASSERT_EQ(join({pp, ps, inter.ptr(), inter.step(), ZeliSize{w, 3}}), zelStatusOk);
+                    ASSERT_EQ(inter.bytes(), want) << "from planes " << t << " C" << c << " width " << w;
                 }
+        }
 }
 
-TYPED_TEST(CopyTyped, SetForms) {
-    using T = TypeParam;
-    const Members<T> f = members<T>();
-    const T vals[4] = {T(1), T(2), T(3), T(250)};
+TEST(Copy, SetForms) {
+    // form, samples a pixel, values written, first channel written
+    struct SetForm { const char* form; int c, n, k0; };
+    const SetForm forms[] = {{"C1R", 1, 1, 0}, {"C3R", 3, 3, 0}, {"C4R", 4, 4, 0}, {"AC4R", 4, 3, 0}, {"C3CR", 3, 1, 1}, {"C4CR", 4, 1, 3}};
     std::uint32_t seed = 31;
-    // form: 0 C1R, 1 C3R, 2 C4R, 3 AC4R, 4 C3CR, 5 C4CR
-    const int ch[6] = {1, 3, 4, 4, 3, 4}, act[6] = {1, 3, 4, 3, 1, 1};
-    for (int form = 0; form < 6; ++form)
-        for (const Variant& v : kVariants)
-            for (int h : kHeights)
+    for (const char* t : kTypes)
+        for (const SetForm& f : forms) {
+            const int sb = sample_bytes(t);
+            u8 value[16];
+            for (int k = 0; k < 16; ++k) value[k] = u8(11 * k + 3);
+            const bool one = f.n == 1;
+            for (const Variant& v : kVariants)
                 for (int w : zt::sweep_widths()) {
-                    const int c = ch[form], k0 = form >= 4 ? 1 : 0;
-                    zt::Image<T> dst(w, h, c, v.extraDst * sizeof(T), v.flush, v.offset * sizeof(T));
+                    Image dst = image(w, 3, f.c, sb, v, false);
                     dst.fill_random(seed++);
-                    std::vector<u8> expect = dst.bytes();
-                    for (int y = 0; y < h; ++y)
+                    std::vector<u8> want = dst.bytes();
+                    for (int y = 0; y < 3; ++y)
                         for (int x = 0; x < w; ++x)
-                            for (int k = 0; k < act[form]; ++k)
-                                std::memcpy(expect.data() + std::ptrdiff_t(y) * dst.step() + (x * c + k + k0) * sizeof(T),
-                                            &vals[k + k0], sizeof(T));
-                    ZelStatus st = zelStatusOk;
-                    switch (form) {
-                    case 0: st = f.set1(vals[0], dst.ptr(), dst.step(), {w, h}); break;
-                    case 1: st = f.set3(vals, dst.ptr(), dst.step(), {w, h}); break;
-                    case 2: st = f.set4(vals, dst.ptr(), dst.step(), {w, h}); break;
-                    case 3: st = f.setA(vals, dst.ptr(), dst.step(), {w, h}); break;
-                    default: st = f.setCR[form - 4](vals[1], dst.ptr() + 1, dst.step(), {w, h}); break;
-                    }
-                    ASSERT_EQ(st, zelStatusOk);
-                    ASSERT_EQ(dst.bytes(), expect) << "set form " << form << " width " << w << " height " << h;
+                            for (int k = 0; k < f.n; ++k)
+                                std::memcpy(want.data() + std::size_t(y) * dst.step() + (std::size_t(x) * f.c + k + f.k0) * sb, value + k * sb, sb);
+                    const Arg val = one ? Arg::bytes(value, sb) : Arg(value);
+                    ASSERT_EQ(fn("Set", t, f.form)({val, dst.ptr() + f.k0 * sb, dst.step(), ZeliSize{w, 3}}), zelStatusOk);
+                    ASSERT_EQ(dst.bytes(), want) << "set " << t << " " << f.form << " width " << w;
                 }
-    // Negative step and step 0 on the fill.
-    zt::Image<T> dst(100, 3, 3);
-    dst.fill_random(5);
-    ASSERT_EQ(f.set3(vals, dst.row(2), -dst.step(), {100, 3}), zelStatusOk);
-    ASSERT_EQ(f.set3(vals, dst.row(2), 0, {100, 3}), zelStatusOk);
-    for (int y = 0; y < 3; ++y)
-        for (int x = 0; x < 100; ++x)
-            for (int k = 0; k < 3; ++k) ASSERT_EQ(std::memcmp(&dst.at(x, y, k), &vals[k], sizeof(T)), 0);
+        }
 }
 
-// Null pointers come first (every plane and the mask too), then the size; an
-// error leaves the destination as it was.
-TYPED_TEST(CopyTyped, StatusOrder) {
-    using T = TypeParam;
-    const Members<T> f = members<T>();
-    zt::Image<T> a(4, 2, 4), b(4, 2, 4);
-    zt::Image<u8> m(4, 2, 1);
+// Null pointers come first (every plane and the mask too), then the size;
+// steps are never checked; an error leaves the destination as it was.
+TEST(Copy, StatusOrder) {
+    Image a(16, 2, 4), b(16, 2, 4), m(4, 2, 1);
     a.fill_random(1);
     b.fill_random(2);
     m.fill_bytes(1);
     const std::vector<u8> before = b.bytes();
     const ZeliSize ok{4, 2}, zeroW{0, 2}, negH{4, -1};
     const int s = a.step();
-    for (const Call2<T>& c : {f.c1, f.c3, f.c4, f.ac4, f.c3cr, f.c4cr, f.c3c1, f.c4c1, f.c1c3, f.c1c4, f.ac4c3, f.c3ac4}) {
-        EXPECT_EQ(c(nullptr, s, b.ptr(), s, zeroW), zelStatusNullPointer);
-        EXPECT_EQ(c(a.ptr(), s, nullptr, s, ok), zelStatusNullPointer);
-        EXPECT_EQ(c(a.ptr(), s, b.ptr(), s, zeroW), zelStatusBadSize);
-        EXPECT_EQ(c(a.ptr(), s, b.ptr(), s, negH), zelStatusBadSize);
-        EXPECT_EQ(c(a.ptr(), -77, b.ptr(), 0, {0, 0}), zelStatusBadSize); // steps are never checked
+    auto ends = [](const std::string& n, const char* tail) { return n.size() > std::strlen(tail) && n.compare(n.size() - std::strlen(tail), std::string::npos, tail) == 0; };
+    for (const auto& [name, f] : list()) {
+        const bool set = name.find("Set") != std::string::npos, masked = ends(name, "MR");
+        const bool one = ends(name, "_C1R") || ends(name, "_C1MR") || ends(name, "CR"); // a single value
+        const Arg v = one ? Arg(0) : Arg(a.ptr());
+        if (set && masked) {
+            EXPECT_EQ(f({v, b.ptr(), s, zeroW, nullptr, 4}), zelStatusNullPointer) << name;
+            EXPECT_EQ(f({v, b.ptr(), s, zeroW, m.ptr(), 4}), zelStatusBadSize) << name;
+        } else if (masked) {
+            EXPECT_EQ(f({a.ptr(), s, b.ptr(), s, zeroW, nullptr, 4}), zelStatusNullPointer) << name;
+            EXPECT_EQ(f({a.ptr(), s, b.ptr(), s, zeroW, m.ptr(), 4}), zelStatusBadSize) << name;
+        } else if (set) {
+            if (!one) {
+                EXPECT_EQ(f({nullptr, b.ptr(), s, ok}), zelStatusNullPointer) << name;
+            }
+            EXPECT_EQ(f({v, nullptr, s, zeroW}), zelStatusNullPointer) << name;
+            EXPECT_EQ(f({v, b.ptr(), s, negH}), zelStatusBadSize) << name;
+        } else if (name.find('P') != std::string::npos) {
+            u8* planes[4] = {b.ptr(), b.ptr(), nullptr, nullptr};
+            const bool toPlanes = name[name.size() - 3] == 'P';
+            EXPECT_EQ(toPlanes ? f({a.ptr(), s, planes, s, zeroW}) : f({planes, s, b.ptr(), s, zeroW}), zelStatusNullPointer) << name;
+            EXPECT_EQ(toPlanes ? f({a.ptr(), s, nullptr, s, ok}) : f({nullptr, s, b.ptr(), s, ok}), zelStatusNullPointer) << name;
+        } else {
+            const bool managed = name.find("Managed") != std::string::npos;
+            auto call = [&](Args args) {
+                if (managed) args.push_back(Arg(0));
+                return f(args);
+            };
+            EXPECT_EQ(call({nullptr, s, b.ptr(), s, zeroW}), zelStatusNullPointer) << name;
+            EXPECT_EQ(call({a.ptr(), s, nullptr, s, ok}), zelStatusNullPointer) << name;
+            EXPECT_EQ(call({a.ptr(), s, b.ptr(), s, negH}), zelStatusBadSize) << name;
+            EXPECT_EQ(call({a.ptr(), -77, b.ptr(), 0, ZeliSize{0, 0}}), zelStatusBadSize) << name;
+        }
     }
-    for (auto& c : f.m) {
-        EXPECT_EQ(c(a.ptr(), s, b.ptr(), s, zeroW, nullptr, 4), zelStatusNullPointer);
-        EXPECT_EQ(c(a.ptr(), s, b.ptr(), s, zeroW, m.ptr(), 4), zelStatusBadSize);
-    }
-    T* planes[4] = {b.ptr(), b.ptr(), nullptr, b.ptr()};
-    const T* cplanes[4] = {a.ptr(), a.ptr(), a.ptr(), nullptr};
-    EXPECT_EQ(f.c3p3(a.ptr(), s, planes, s, zeroW), zelStatusNullPointer);
-    EXPECT_EQ(f.c4p4(a.ptr(), s, nullptr, s, ok), zelStatusNullPointer);
-    EXPECT_EQ(f.p4c4(cplanes, s, b.ptr(), s, zeroW), zelStatusNullPointer);
-    EXPECT_EQ(f.p3c3(cplanes, s, b.ptr(), s, zeroW), zelStatusBadSize);
-    const T vals[4] = {};
-    EXPECT_EQ(f.set1(T(1), nullptr, s, zeroW), zelStatusNullPointer);
-    EXPECT_EQ(f.set3(nullptr, b.ptr(), s, ok), zelStatusNullPointer);
-    EXPECT_EQ(f.set4(vals, b.ptr(), s, zeroW), zelStatusBadSize);
-    EXPECT_EQ(f.setA(vals, b.ptr(), s, negH), zelStatusBadSize);
-    EXPECT_EQ(f.setCR[0](T(1), b.ptr(), s, zeroW), zelStatusBadSize);
-    EXPECT_EQ(f.setM1(T(1), b.ptr(), s, zeroW, nullptr, 4), zelStatusNullPointer);
-    EXPECT_EQ(f.setM[2](vals, b.ptr(), s, zeroW, m.ptr(), 4), zelStatusBadSize);
     EXPECT_EQ(b.bytes(), before);
 }
 
-// ---- 8u only: duplicate and managed copy ---------------------------------------
-TEST(Copy, Dup) {
-    check_pair<u8>("Dup C1C3", 1, 0, 3, 0, zeliDup_8u_C1C3R, [](const u8* s, u8* d, int w) {
-        for (int x = 0; x < w; ++x) d[3 * x] = d[3 * x + 1] = d[3 * x + 2] = s[x];
-    });
-    check_pair<u8>("Dup C1C4", 1, 0, 4, 0, zeliDup_8u_C1C4R, [](const u8* s, u8* d, int w) {
-        for (int x = 0; x < w; ++x) d[4 * x] = d[4 * x + 1] = d[4 * x + 2] = d[4 * x + 3] = s[x];
-    });
-    EXPECT_EQ(zeliDup_8u_C1C3R(nullptr, 1, nullptr, 3, {0, 0}), zelStatusNullPointer);
-}
-
+// Managed copy with every flag combination, over short rows and long ones
+// (the 64-byte rounds after the alignment steps), at several misalignments.
 TEST(Copy, Managed) {
-    for (int flags = 0; flags < 4; ++flags) {
-        auto call = [flags](const u8* s, int ss, u8* d, int ds, ZeliSize roi) {
-            return zeliCopyManaged_8u_C1R(s, ss, d, ds, roi, flags);
-        };
-        const auto ref = ref_move<u8>(1, 1, 1);
-        check_pair<u8>("Managed", 1, 0, 1, 0, call, ref);
-        check_pair<u8>("Managed wide", 1, 0, 1, 0, call, ref); // widths above are below 300; add long rows
-        for (int w : {1000, 4099}) // long rows: the 64-byte loop and its alignment steps
+    for (int flags = 0; flags < 4; ++flags)
+        for (int w : {1, 17, 63, 64, 100, 1000, 4099})
             for (int off : {0, 5, 13}) {
-                zt::Image<u8> src(w, 3, 1, off, zt::Flush::Head, off), dst(w, 3, 1, 3 * off, zt::Flush::Head, 64 - off);
+                Image src(w, 3, 1, off, zt::Flush::Head, off), dst(w, 3, 1, 3 * off, zt::Flush::Head, 64 - off);
                 src.fill_random(w);
                 dst.fill_random(w + 1);
-                ASSERT_EQ(call(src.ptr(), src.step(), dst.ptr(), dst.step(), {w, 3}), zelStatusOk);
-                for (int r = 0; r < 3; ++r) ASSERT_EQ(std::memcmp(src.row(r), dst.row(r), w), 0) << flags;
+                ASSERT_EQ(zeliCopyManaged_8u_C1R(src.ptr(), src.step(), dst.ptr(), dst.step(), {w, 3}, flags), zelStatusOk);
+                for (int r = 0; r < 3; ++r) ASSERT_EQ(std::memcmp(src.row(r), dst.row(r), w), 0) << flags << " " << w;
             }
-        check_odd_steps<u8>("Managed", 1, 1, call, ref);
-    }
-    EXPECT_EQ(zeliCopyManaged_8u_C1R(nullptr, 1, nullptr, 1, {0, 1}, 0), zelStatusNullPointer);
 }
 
-// Forcing a small cache size makes the large copies and fills take their
-// non-temporal paths; the bytes must not change.
-TEST(Copy, NonTemporalPathsGiveTheSameBytes) {
-    zelSetMaxCacheSizeB(4096);
-    struct Reset {
-        ~Reset() { zelSetMaxCacheSizeB(0); }
-    } reset;
-    const int w = 1100, h = 1000; // above 0x100000 bytes even at one byte a pixel
-    for (int extra : {0, 7}) {
-        zt::Image<u8> src(w, h, 1, extra, zt::Flush::Head, 3), dst(w, h, 1, extra, zt::Flush::Head, 9);
-        src.fill_random(1);
-        dst.fill_random(2);
-        ASSERT_EQ(zeliCopy_8u_C1R(src.ptr(), src.step(), dst.ptr(), dst.step(), {w, h}), zelStatusOk);
-        for (int r = 0; r < h; ++r) ASSERT_EQ(std::memcmp(src.row(r), dst.row(r), w), 0) << "row " << r;
-        const Zel8u v3[3] = {1, 2, 3};
-        ASSERT_EQ(zeliSet_8u_C3R(v3, dst.ptr(), dst.step(), {w / 3, h}), zelStatusOk);
-        for (int r = 0; r < h; r += 97)
-            for (int x = 0; x < w / 3 * 3; ++x) ASSERT_EQ(dst.at(x, r), x % 3 + 1);
-    }
-    for (int extra : {0, 4}) {
-        zt::Image<Zel32f> inter(600, 200, 3, extra * 4, zt::Flush::Head, 4);
-        zt::Image<Zel32f> p0(600, 200, 1, extra * 4), p1(600, 200, 1, extra * 4, zt::Flush::Head, 4),
-            p2(600, 200, 1, extra * 4, zt::Flush::Head, 8);
-        inter.fill_random(3);
-        Zel32f* pp[3] = {p0.ptr(), p1.ptr(), p2.ptr()};
-        ASSERT_EQ(zeliCopy_32f_C3P3R(inter.ptr(), inter.step(), pp, p0.step(), {600, 200}), zelStatusOk);
-        for (int y = 0; y < 200; y += 13)
-            for (int x = 0; x < 600; ++x) {
-                ASSERT_EQ(std::memcmp(&p0.at(x, y), &inter.at(x, y, 0), 4), 0);
-                ASSERT_EQ(std::memcmp(&p2.at(x, y), &inter.at(x, y, 2), 4), 0);
-            }
-        zt::Image<Zel8u> i8(600, 400, 4, extra), q0(600, 400, 1, extra), q1(600, 400, 1, extra), q2(600, 400, 1, extra),
-            q3(600, 400, 1, extra);
-        q0.fill_random(4), q1.fill_random(5), q2.fill_random(6), q3.fill_random(7);
-        const Zel8u* qq[4] = {q0.ptr(), q1.ptr(), q2.ptr(), q3.ptr()};
-        ASSERT_EQ(zeliCopy_8u_P4C4R(qq, q0.step(), i8.ptr(), i8.step(), {600, 400}), zelStatusOk);
-        for (int y = 0; y < 400; y += 11)
-            for (int x = 0; x < 600; ++x) ASSERT_EQ(i8.at(x, y, 3), q3.at(x, y));
-    }
-}
-
-// Long contiguous images fold into one row that is filled by repeating a seed
-// of the pattern; every byte up to the guard page must hold the pattern, for
-// both pattern periods and at unaligned starts.
-TEST(Copy, LongRowFills) {
-    for (std::size_t offset : {0, 4, 12}) {
-        for (int w : {87382, 100003}) { // 3 and 12 bytes a pixel: above 256 KiB, odd remainders
-            zt::Image<u8> d8(w, 2, 3, 0, zt::Flush::Tail, offset);
+// A small cache size makes large copies, fills and planar copies take their
+// non-temporal paths, and long contiguous fills repeat a seed of the pattern
+// (both pattern periods, unaligned starts): the bytes must not change.
+TEST(Copy, LargeImages) {
+    for (int cache : {4096, 0}) {
+        zelSetMaxCacheSizeB(cache);
+        const int w = 1100, h = 1000;
+        for (int extra : {0, 7}) {
+            Image src(w, h, 1, extra, zt::Flush::Head, 3), dst(w, h, 1, extra, zt::Flush::Head, 9);
+            src.fill_random(1);
+            ASSERT_EQ(zeliCopy_8u_C1R(src.ptr(), src.step(), dst.ptr(), dst.step(), {w, h}), zelStatusOk);
+            for (int r = 0; r < h; ++r) ASSERT_EQ(std::memcmp(src.row(r), dst.row(r), w), 0) << "row " << r;
+            const Zel8u v3[3] = {1, 2, 3};
+            ASSERT_EQ(zeliSet_8u_C3R(v3, dst.ptr(), dst.step(), {w / 3, h}), zelStatusOk);
+            for (int r = 0; r < h; r += 97)
+                for (int x = 0; x < w / 3 * 3; ++x) ASSERT_EQ(dst.at(x, r), x % 3 + 1);
+            zt::Image<Zel32f> inter(600, 200, 3, extra * 4, zt::Flush::Head, 4), p0(600, 200, 1, extra * 4),
+                p1(600, 200, 1, extra * 4, zt::Flush::Head, 4), p2(600, 200, 1, extra * 4, zt::Flush::Head, 8);
+            inter.fill_random(3);
+            Zel32f* pp[3] = {p0.ptr(), p1.ptr(), p2.ptr()};
+            ASSERT_EQ(zeliCopy_32f_C3P3R(inter.ptr(), inter.step(), pp, p0.step(), {600, 200}), zelStatusOk);
+            for (int y = 0; y < 200; y += 13)
+                for (int x = 0; x < 600; ++x) ASSERT_EQ(std::memcmp(&p2.at(x, y), &inter.at(x, y, 2), 4), 0);
+        }
+        for (std::size_t offset : {0, 4, 12}) {
+            const int n = 100003; // above 256 KiB, odd remainder
+            Image d8(n, 2, 3, 0, zt::Flush::Tail, offset);
             const Zel8u v3[3] = {7, 8, 9};
-            ASSERT_EQ(zeliSet_8u_C3R(v3, d8.ptr(), d8.step(), {w, 2}), zelStatusOk);
+            ASSERT_EQ(zeliSet_8u_C3R(v3, d8.ptr(), d8.step(), {n, 2}), zelStatusOk);
             for (int y = 0; y < 2; ++y)
-                for (int x = 0; x < w; ++x)
-                    for (int c = 0; c < 3; ++c) ASSERT_EQ(d8.at(x, y, c), 7 + c) << x;
-            zt::Image<Zel32f> d32(w, 1, 1, 0, zt::Flush::Tail, offset);
-            ASSERT_EQ(zeliSet_32f_C1R(-1.5f, d32.ptr(), d32.step(), {w, 1}), zelStatusOk);
-            for (int x = 0; x < w; ++x) ASSERT_EQ(d32.at(x, 0), -1.5f) << x;
-            zt::Image<Zel32f> d3(w / 4, 1, 3, 0, zt::Flush::Tail, offset);
-            const Zel32f f3[3] = {1.0f, 2.0f, 3.0f};
-            ASSERT_EQ(zeliSet_32f_C3R(f3, d3.ptr(), d3.step(), {w / 4, 1}), zelStatusOk);
-            for (int x = 0; x < w / 4; ++x)
-                for (int c = 0; c < 3; ++c) ASSERT_EQ(d3.at(x, 0, c), float(c + 1)) << x;
+                for (int x = 0; x < n * 3; ++x) ASSERT_EQ(d8.row(y)[x], 7 + x % 3) << x;
         }
     }
 }

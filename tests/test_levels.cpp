@@ -1,10 +1,12 @@
 // Every member gives the same bytes at every instruction-set level and at one
-// and two threads: its outputs, its status and every byte around them. The
+// and two threads (under each rounding mode of the caller): its outputs, its
+// status and every byte around them. The
 // arguments are made up from each member's parameter list (members.hpp), so
 // a new member is covered as soon as it is in a declaration list.
 #include "members.hpp"
 
 #include <gtest/gtest.h>
+#include <xmmintrin.h>
 
 #include <string>
 #include <vector>
@@ -55,15 +57,24 @@ TEST(Levels, EveryMemberSameBytesAtEveryLevelAndThreadCount) {
             if (!ok) break;
         }
         if (ok) {
+            // One and two threads, under each rounding mode of the caller (the
+            // team was made under another mode before).
             zt::Call call(m, kThreaded.size, 99, kThreaded.scale);
+            const unsigned csr = _mm_getcsr();
             zt::for_each_level([&](int level) {
-                zelSetNumThreads(1);
-                const ZelStatus st1 = call.run();
-                const std::vector<std::uint8_t> one = call.bytes();
-                zelSetNumThreads(2);
-                const ZelStatus st2 = call.run();
-                EXPECT_EQ(st1, st2) << m.name << " level " << level;
-                EXPECT_EQ(first_difference(one, call.bytes()), "") << m.name << " at 2 threads, level " << level;
+                for (unsigned mode : {0x0000u, 0x6000u, 0x2000u}) {
+                    _mm_setcsr((csr & ~0x6000u) | mode);
+                    zelSetNumThreads(1);
+                    const ZelStatus st1 = call.run();
+                    const std::vector<std::uint8_t> one = call.bytes();
+                    zelSetNumThreads(2);
+                    const ZelStatus st2 = call.run();
+                    const std::vector<std::uint8_t> two = call.bytes();
+                    _mm_setcsr(csr);
+                    EXPECT_EQ(st1, st2) << m.name << " level " << level << " rounding " << mode;
+                    EXPECT_EQ(first_difference(one, two), "") << m.name << " at 2 threads, level " << level
+                                                              << " rounding " << mode;
+                }
             });
             zelSetNumThreads(0);
         }

@@ -1,190 +1,118 @@
-// Every threshold member against a reference of its rule, in place and not,
-// with AC4 alpha kept and NaN samples kept; the 16u thread gates and the
-// streaming choice change no pixel; the order of status checks; Otsu's level.
-#include "guard.hpp"
+// Every threshold member, taken from its declaration list, against its rule
+// written here: the sweep shapes, in place and not, AC4 alpha and NaN samples
+// kept, large 16u images at two threads with streamed rows; the order of
+// status checks; Otsu's level against a direct search.
+#include "named_args.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstring>
-#include <functional>
 #include <limits>
 #include <random>
-#include <string>
 
 namespace {
 
-enum Kind { PlainGT, PlainLT, GT, LT, ValGT, ValLT, GTVal, LTVal, LTGT };
+const std::vector<zt::Named> kMembers = {
+#define ZEL_FN(ret, name, params, args, impl) ZT_NAMED(name, args)
+#include "zelip8/fn_threshold.h"
+#undef ZEL_FN
+};
 
+// Levels t, t2 (t2 not below t) and values v, v2 of four channels.
 template <class T>
 struct Params {
     T t[4], v[4], t2[4], v2[4];
 };
 
+// The rule of a member (variant as in the name, op for the plain and Val forms).
 template <class T>
-struct Member {
-    std::string name;
-    int layout; // 0 C1, 1 C3, 2 C4, 3 AC4
-    Kind kind;
-    bool inPlace;
-    int gate; // thread gate in width and height, 0 when the member never forks
-    std::function<ZelStatus(const T*, int, T*, int, ZeliSize, const Params<T>&)> call;
-};
-
-constexpr int kChans[4] = {1, 3, 4, 4}, kActive[4] = {1, 3, 4, 3};
-
-#define ZT_A1(x) x[0]
-#define ZT_AN(x) x
-#define ZT_R(T, NAME, LI, KIND, G, ...)                                                                 \
-    {#NAME, LI, KIND, false, G, [](const Zel##T* s, int ss, Zel##T* d, int ds, ZeliSize r, const Params<Zel##T>& p) { \
-         return NAME(s, ss, d, ds, r, __VA_ARGS__);                                                        \
-     }}
-#define ZT_I(T, NAME, LI, KIND, G, ...)                                                                 \
-    {#NAME, LI, KIND, true, G, [](const Zel##T*, int, Zel##T* d, int ds, ZeliSize r, const Params<Zel##T>& p) { \
-         return NAME(d, ds, r, __VA_ARGS__);                                                               \
-     }}
-// R and IR forms of one layout; GP, GV, GL: gates of the plain, Val and LTValGTVal R forms.
-#define ZT_LAYOUT(T, L, LI, A, GP, GV, GL)                                                                              \
-    ZT_R(T, zeliThreshold_##T##_##L##R, LI, PlainGT, GP, A(p.t), zelCmpGreater),                                        \
-    ZT_R(T, zeliThreshold_##T##_##L##R, LI, PlainLT, GP, A(p.t), zelCmpLess),                                           \
-    ZT_R(T, zeliThreshold_GT_##T##_##L##R, LI, GT, GP, A(p.t)), ZT_R(T, zeliThreshold_LT_##T##_##L##R, LI, LT, GP, A(p.t)), \
-    ZT_R(T, zeliThreshold_Val_##T##_##L##R, LI, ValGT, GV, A(p.t), A(p.v), zelCmpGreater),                               \
-    ZT_R(T, zeliThreshold_Val_##T##_##L##R, LI, ValLT, GV, A(p.t), A(p.v), zelCmpLess),                                  \
-    ZT_R(T, zeliThreshold_GTVal_##T##_##L##R, LI, GTVal, GV, A(p.t), A(p.v)),                                             \
-    ZT_R(T, zeliThreshold_LTVal_##T##_##L##R, LI, LTVal, GV, A(p.t), A(p.v)),                                             \
-    ZT_R(T, zeliThreshold_LTValGTVal_##T##_##L##R, LI, LTGT, GL, A(p.t), A(p.v), A(p.t2), A(p.v2)),                       \
-    ZT_I(T, zeliThreshold_##T##_##L##IR, LI, PlainGT, 0, A(p.t), zelCmpGreater),                                        \
-    ZT_I(T, zeliThreshold_##T##_##L##IR, LI, PlainLT, 0, A(p.t), zelCmpLess),                                           \
-    ZT_I(T, zeliThreshold_GT_##T##_##L##IR, LI, GT, 0, A(p.t)), ZT_I(T, zeliThreshold_LT_##T##_##L##IR, LI, LT, 0, A(p.t)), \
-    ZT_I(T, zeliThreshold_Val_##T##_##L##IR, LI, ValGT, 0, A(p.t), A(p.v), zelCmpGreater),                               \
-    ZT_I(T, zeliThreshold_Val_##T##_##L##IR, LI, ValLT, 0, A(p.t), A(p.v), zelCmpLess),                                  \
-    ZT_I(T, zeliThreshold_GTVal_##T##_##L##IR, LI, GTVal, 0, A(p.t), A(p.v)),                                             \
-    ZT_I(T, zeliThreshold_LTVal_##T##_##L##IR, LI, LTVal, 0, A(p.t), A(p.v)),                                             \
-    ZT_I(T, zeliThreshold_LTValGTVal_##T##_##L##IR, LI, LTGT, 0, A(p.t), A(p.v), A(p.t2), A(p.v2))
-#define ZT_TYPE(T, GP1, GP3, GV1, GV3, GL1, GL3, G4)                                                                    \
-    template <>                                                                                                           \
-    std::vector<Member<Zel##T>> members<Zel##T>() {                                                                       \
-        return {ZT_LAYOUT(T, C1, 0, ZT_A1, GP1, GV1, GL1), ZT_LAYOUT(T, C3, 1, ZT_AN, GP3, GV3, GL3),                      \
-                ZT_LAYOUT(T, AC4, 3, ZT_AN, GP3, GV3, GL3),                                                               \
-                ZT_R(T, zeliThreshold_GTVal_##T##_C4R, 2, GTVal, G4, p.t, p.v),                                           \
-                ZT_R(T, zeliThreshold_LTVal_##T##_C4R, 2, LTVal, G4, p.t, p.v),                                           \
-                ZT_I(T, zeliThreshold_GTVal_##T##_C4IR, 2, GTVal, G4, p.t, p.v),                                          \
-                ZT_I(T, zeliThreshold_LTVal_##T##_C4IR, 2, LTVal, G4, p.t, p.v)};                                         \
-    }
-template <class T>
-std::vector<Member<T>> members();
-ZT_TYPE(8u, 0, 0, 0, 0, 0, 0, 0)
-ZT_TYPE(16u, 192, 128, 192, 64, 128, 64, 64)
-ZT_TYPE(16s, 0, 0, 0, 0, 0, 0, 0)
-ZT_TYPE(32f, 0, 0, 0, 0, 0, 0, 0)
+T rule(const std::string& variant, int op, T x, const Params<T>& p, int c) {
+    const std::string k = variant == "" ? (op == zelCmpGreater ? "GT" : "LT") : variant == "Val" ? (op == zelCmpGreater ? "GTVal" : "LTVal") : variant;
+    if (k == "GT") return x > p.t[c] ? p.t[c] : x;
+    if (k == "LT") return x < p.t[c] ? p.t[c] : x;
+    if (k == "GTVal") return x > p.t[c] ? p.v[c] : x;
+    if (k == "LTVal") return x < p.t[c] ? p.v[c] : x;
+    return x < p.t[c] ? p.v[c] : x > p.t2[c] ? p.v2[c] : x;
+}
 
 template <class T>
-T rule(Kind k, T x, const Params<T>& p, int c) {
-    switch (k) {
-    case PlainGT:
-    case GT: return x > p.t[c] ? p.t[c] : x;
-    case PlainLT:
-    case LT: return x < p.t[c] ? p.t[c] : x;
-    case ValGT:
-    case GTVal: return x > p.t[c] ? p.v[c] : x;
-    case ValLT:
-    case LTVal: return x < p.t[c] ? p.v[c] : x;
-    default: return x < p.t[c] ? p.v[c] : x > p.t2[c] ? p.v2[c] : x;
-    }
+T sample(std::mt19937& rng) {
+    if (std::is_floating_point<T>::value && rng() % 11 == 0) return std::numeric_limits<T>::quiet_NaN();
+    const int v = int(rng() % 16) * 16;
+    return std::is_same<T, Zel16s>::value ? T(v - 128) : std::is_same<T, Zel16u>::value ? T(v * 200) : T(v);
 }
 
 template <class T>
 bool same(T a, T b) { return std::memcmp(&a, &b, sizeof(T)) == 0; }
 
+// One call of member m on fresh images of shape sh, every sample checked.
 template <class T>
-T sample(std::mt19937& rng) {
-    const int v = int(rng() % 16) * 16;
-    if (std::is_floating_point<T>::value && rng() % 11 == 0) return std::numeric_limits<T>::quiet_NaN();
-    return std::is_same<T, Zel16s>::value ? T(v - 128) : std::is_same<T, Zel16u>::value ? T(v * 200) : T(v);
-}
-
-template <class T>
-Params<T> params(std::mt19937& rng) {
+void check(const zt::Named& m, const zt::Shape& sh, int op, std::mt19937& rng) {
+    const zt::NameParts n = zt::name_parts(m.name);
+    const int C = n.channels, row = sh.w * C;
+    zt::Image<T> s = zt::make_image<T>(sh, C), d = zt::make_image<T>(sh, C);
+    std::vector<T> src, old; // the source and the destination before the call
+    for (int y = 0; y < sh.h; ++y)
+        for (int x = 0; x < row; ++x) {
+            old.push_back(d.row(y)[x] = sample<T>(rng));
+            src.push_back(n.inPlace ? old.back() : (s.row(y)[x] = sample<T>(rng)));
+        }
     Params<T> p;
     for (int c = 0; c < 4; ++c) {
-        T a = sample<T>(rng), b = sample<T>(rng);
-        if (std::is_floating_point<T>::value) a = std::isnan(double(a)) ? T(1) : a, b = std::isnan(double(b)) ? T(2) : b;
-        p.t[c] = std::min(a, b), p.t2[c] = std::max(a, b);
+        const T a = sample<T>(rng), b = sample<T>(rng);
+        const bool nan = a != a || b != b; // levels are numbers
+        p.t[c] = nan ? T(16) : std::min(a, b), p.t2[c] = nan ? T(32) : std::max(a, b);
         p.v[c] = sample<T>(rng), p.v2[c] = sample<T>(rng);
     }
-    return p;
+    zt::Args a;
+    a.pSrc.p = s.ptr(), a.srcStep = s.step(), a.pDst.p = a.pSrcDst.p = d.ptr(), a.dstStep = a.srcDstStep = d.step();
+    a.roiSize = {sh.w, sh.h}, a.zelCmpOp = ZelCmpOp(op);
+    a.threshold.set(p.t), a.value.set(p.v), a.thresholdLT.set(p.t), a.valueLT.set(p.v), a.thresholdGT.set(p.t2), a.valueGT.set(p.v2);
+    ASSERT_EQ(m.call(a), zelStatusOk) << m.name;
+    for (std::size_t k = 0; k < src.size(); ++k) {
+        const T want = int(k % C) < n.active ? rule(n.variant, op, src[k], p, int(k % C)) : old[k];
+        ASSERT_TRUE(same(d.row(int(k / row))[k % row], want)) << m.name << " " << sh.w << "x" << sh.h << " sample " << k;
+    }
 }
 
-// Runs one member on a fresh guarded image and checks every sample.
-template <class T>
-void check(const Member<T>& m, int w, int h, std::mt19937& rng, int extra, zt::Flush flush, std::size_t offset) {
-    const int C = kChans[m.layout], A = kActive[m.layout];
-    zt::Image<T> s(w, h, C, extra, flush, offset), d(w, h, C, extra, flush, offset), before(w, h, C, extra);
-    for (int y = 0; y < h; ++y)
-        for (int x = 0; x < w * C; ++x) s.row(y)[x] = sample<T>(rng), d.row(y)[x] = sample<T>(rng);
-    if (m.inPlace)
-        for (int y = 0; y < h; ++y) std::memcpy(d.row(y), s.row(y), std::size_t(w) * C * sizeof(T));
-    for (int y = 0; y < h; ++y) std::memcpy(before.row(y), d.row(y), std::size_t(w) * C * sizeof(T));
-    const Params<T> p = params<T>(rng);
-    ASSERT_EQ(m.call(s.ptr(), s.step(), d.ptr(), d.step(), s.size(), p), zelStatusOk) << m.name;
-    for (int y = 0; y < h; ++y)
-        for (int x = 0; x < w; ++x)
-            for (int c = 0; c < C; ++c) {
-                const T want = c < A ? rule(m.kind, s.at(x, y, c), p, c) : before.at(x, y, c);
-                ASSERT_TRUE(same(d.at(x, y, c), want)) << m.name << " " << w << "x" << h << " at " << x << "," << y << "," << c;
-            }
-}
-
-template <class T>
-class Threshold : public ::testing::Test {};
-using Types = ::testing::Types<Zel8u, Zel16u, Zel16s, Zel32f>;
-TYPED_TEST_SUITE(Threshold, Types);
-
-TYPED_TEST(Threshold, EveryMemberAgainstReference) {
-    using T = TypeParam;
-    std::mt19937 rng(17);
-    for (const auto& m : members<T>())
-        for (int w : {1, 3, 7, 16, 17, 33, 100}) {
-            check(m, w, 3, rng, 0, zt::Flush::Tail, 0);
-            check(m, w, 2, rng, 3 * sizeof(T), zt::Flush::Head, sizeof(T));
-        }
-}
-
-// The team size never changes a pixel: at 1 and 2 threads, just below the gate
-// in either side, and at the gate with an odd height (the last band takes the
-// remainder).
-TEST(ThresholdGates, SameAtOneAndTwoThreads) {
-    std::mt19937 rng(23);
-    for (const auto& m : members<Zel16u>()) {
-        if (!m.gate) continue;
-        for (auto [w, h] : {std::pair<int, int>{m.gate - 1, m.gate + 1}, {m.gate + 1, m.gate - 1}, {m.gate, m.gate + 1}})
-            for (int threads : {1, 2}) {
-                zelSetNumThreads(threads);
-                check(m, w, h, rng, 0, zt::Flush::Tail, 0);
+// Every member of the types in `types` on every shape, with both operators
+// where the member takes one.
+void check_all(const std::vector<zt::Shape>& shapes, const std::string& types, std::mt19937& rng) {
+    for (const zt::Named& m : kMembers) {
+        const zt::NameParts n = zt::name_parts(m.name);
+        if (n.family != "Threshold" || types.find(n.type) == std::string::npos) continue;
+        for (const zt::Shape& s : shapes)
+            for (int op : {zelCmpLess, zelCmpGreater}) {
+                if (n.type == "8u") check<Zel8u>(m, s, op, rng);
+                else if (n.type == "16u") check<Zel16u>(m, s, op, rng);
+                else if (n.type == "16s") check<Zel16s>(m, s, op, rng);
+                else check<Zel32f>(m, s, op, rng);
+                if (n.variant != "" && n.variant != "Val") break;
             }
     }
-    zelSetNumThreads(0);
 }
 
-// Past half the cache the 16u rows are streamed; the pixels are the same,
-// AC4 alpha included.
-TEST(ThresholdGates, NonTemporalRows) {
+TEST(Threshold, EveryMemberAgainstItsRule) {
+    std::mt19937 rng(17);
+    check_all(zt::sweep_shapes({1, 3}, 3), "8u 16u 16s 32f", rng);
+}
+
+// Large enough for every 16u thread gate, at two threads, with a cache small
+// enough that the rows are streamed (never in place).
+TEST(Threshold, StreamedRowsAtTwoThreads) {
     std::mt19937 rng(29);
     zelSetMaxCacheSizeB(0x10000);
-    for (const auto& m : members<Zel16u>()) {
-        if (!m.gate || m.inPlace) continue;
-        zelSetNumThreads(2);
-        check(m, 400, 330, rng, 6, zt::Flush::Head, 2); // 400 x 330 x 2 > 0x40000 bytes in every layout
-    }
-    zelSetMaxCacheSizeB(0);
+    zelSetNumThreads(2);
+    check_all({{400, 331, 3, zt::Flush::Head, 1}}, "16u", rng);
     zelSetNumThreads(0);
+    zelSetMaxCacheSizeB(0);
 }
 
 TEST(ThresholdStatus, OrderOfChecks) {
     zt::Image<Zel16u> a(4, 2, 4);
     Zel16u* p = a.ptr();
     const Zel16u t[4] = {1, 2, 3, 4}, lo[4] = {5, 5, 5, 5}, hi[4] = {9, 9, 4, 9}, hiA[4] = {9, 9, 9, 0};
-    // plain: null, size, step, null level, operator
+    // plain: null, size, step, null level array, operator
     EXPECT_EQ(zeliThreshold_8u_C1R(nullptr, 0, nullptr, 0, {0, 0}, 1, 1), zelStatusNullPointer);
     EXPECT_EQ(zeliThreshold_16u_C1R(p, 0, p, 0, {0, 1}, 1, 1), zelStatusBadSize);
     EXPECT_EQ(zeliThreshold_16u_C1R(p, 0, p, 8, {4, 1}, 1, 1), zelStatusBadStep);
@@ -212,34 +140,17 @@ TEST(ThresholdStatus, OrderOfChecks) {
     EXPECT_EQ(zeliThreshold_LTValGTVal_16u_C3R(p, 24, p, 24, {4, 1}, lo, nullptr, hi, t), zelStatusNullPointer);
 }
 
-TEST(ThresholdExamples, EqualLevelsAndNaN) {
-    Zel8u v[5] = {3, 4, 5, 6, 7};
-    ASSERT_EQ(zeliThreshold_LTValGTVal_8u_C1IR(v, 5, {5, 1}, 5, 0, 5, 255), zelStatusOk);
-    const Zel8u want[5] = {0, 0, 5, 255, 255};
-    for (int i = 0; i < 5; ++i) EXPECT_EQ(v[i], want[i]) << i;
-    float f[2] = {std::numeric_limits<float>::quiet_NaN(), 3.f};
-    ASSERT_EQ(zeliThreshold_GT_32f_C1IR(f, 8, {2, 1}, 1.f), zelStatusOk);
-    EXPECT_TRUE(std::isnan(f[0]));
-    EXPECT_EQ(f[1], 1.f);
-}
-
 // ---------------------------------------------------------------------------
 // Otsu
 // ---------------------------------------------------------------------------
-// Image of the given counts per grey value, laid out row by row.
-zt::Image<Zel8u> image_of(const std::vector<std::pair<int, int>>& counts, int w) {
-    int n = 0;
+// Otsu's level of an image holding the given counts of grey values, row by row.
+int otsu(const std::vector<std::pair<int, int>>& counts, int w) {
+    int n = 0, k = 0;
     for (auto& c : counts) n += c.second;
-    const int h = (n + w - 1) / w;
-    zt::Image<Zel8u> img(w, h, 1, 5, zt::Flush::Head, 1);
-    int k = 0;
+    zt::Image<Zel8u> img(w, (n + w - 1) / w, 1, 5, zt::Flush::Head, 1);
     for (auto& c : counts)
         for (int i = 0; i < c.second; ++i, ++k) img.at(k % w, k / w) = Zel8u(c.first);
-    EXPECT_EQ(k, w * h) << "counts must fill the image";
-    return img;
-}
-
-Zel8u otsu(const zt::Image<Zel8u>& img) {
+    EXPECT_EQ(k, w * img.height()) << "counts must fill the image";
     Zel8u t = 77;
     EXPECT_EQ(zeliComputeThreshold_Otsu_8u_C1R(img.ptr(), img.step(), img.size(), &t), zelStatusOk);
     return t;
@@ -248,11 +159,9 @@ Zel8u otsu(const zt::Image<Zel8u>& img) {
 // The level that maximises the between-class variance w0 w1 (m0 - m1)^2,
 // searched directly over all splits; the first of equal maxima wins.
 int brute_force_level(const std::vector<std::pair<int, int>>& counts) {
-    double h[256] = {};
-    double n = 0;
+    double h[256] = {}, n = 0, bestV = 0;
     for (auto& c : counts) h[c.first] += c.second, n += c.second;
     int best = 0;
-    double bestV = 0;
     for (int t = 0; t < 256; ++t) {
         double n0 = 0, s0 = 0, n1 = 0, s1 = 0;
         for (int i = 0; i < 256; ++i) (i <= t ? n0 : n1) += h[i], (i <= t ? s0 : s1) += h[i] * i;
@@ -263,25 +172,18 @@ int brute_force_level(const std::vector<std::pair<int, int>>& counts) {
     return best;
 }
 
-TEST(Otsu, CraftedHistograms) {
-    EXPECT_EQ(otsu(image_of({{50, 64}, {200, 64}}, 16)), 50);     // two values: the lower one
-    EXPECT_EQ(otsu(image_of({{123, 60}}, 6)), 0);                  // one grey value: no split
-    EXPECT_EQ(otsu(image_of({{0, 30}, {255, 30}}, 10)), 0);        // the extremes
-    const std::vector<std::pair<int, int>> three = {{10, 40}, {20, 30}, {120, 50}, {130, 20}, {240, 60}};
-    EXPECT_EQ(otsu(image_of(three, 20)), brute_force_level(three));
-    const std::vector<std::pair<int, int>> skew = {{5, 3}, {6, 90}, {7, 4}, {60, 2}, {61, 1}};
-    EXPECT_EQ(otsu(image_of(skew, 20)), brute_force_level(skew));
-    // Symmetric three peaks: both splits give the same variance, the first stays.
-    EXPECT_EQ(otsu(image_of({{10, 20}, {100, 20}, {190, 20}}, 20)), 10);
-    // Random images agree with the direct search.
+TEST(Otsu, CraftedAndRandomHistograms) {
+    EXPECT_EQ(otsu({{50, 64}, {200, 64}}, 16), 50);             // two values: the lower one
+    EXPECT_EQ(otsu({{123, 60}}, 6), 0);                         // one grey value: no split
+    EXPECT_EQ(otsu({{0, 30}, {255, 30}}, 10), 0);               // the extremes
+    EXPECT_EQ(otsu({{10, 20}, {100, 20}, {190, 20}}, 20), 10);  // equal variances: the first stays
     std::mt19937 rng(31);
     for (int trial = 0; trial < 20; ++trial) {
         std::vector<std::pair<int, int>> c;
-        for (int k = 0; k < 6; ++k) c.push_back({int(rng() % 256), int(rng() % 50) + 1});
         int n = 0;
-        for (auto& e : c) n += e.second;
+        for (int k = 0; k < 6; ++k) c.push_back({int(rng() % 256), int(rng() % 50) + 1}), n += c.back().second;
         c.push_back({int(rng() % 256), 7 - n % 7});
-        EXPECT_EQ(otsu(image_of(c, 7)), brute_force_level(c)) << trial;
+        EXPECT_EQ(otsu(c, 7), brute_force_level(c)) << trial;
     }
 }
 

@@ -12,7 +12,7 @@ namespace avx2 {
 #elif ZEL_LEVEL == 3
 #pragma GCC target("avx2,avx512f,avx512bw,avx512vl,avx512dq,popcnt")
 // The 512-bit intrinsics of GCC 12 start from deliberately undefined
-// registers, which its uninitialised-use analysis reports once inlined.
+// registers, which its uninitialised-use analyses report once inlined.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
 #pragma GCC diagnostic ignored "-Wuninitialized"
@@ -24,7 +24,11 @@ namespace avx512 {
 
 #include "core/simd/vec.hpp"
 #include "core/simd/loops.hpp"
+#include "core/simd/stream_copy.hpp"
+#include "core/simd/pixel.hpp"
+#ifdef ZEL_KERNELS
 #include ZEL_KERNELS
+#endif
 #ifdef ZEL_KERNELS_2
 #include ZEL_KERNELS_2
 #endif

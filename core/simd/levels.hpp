@@ -29,9 +29,11 @@
 #include <type_traits>
 #include <utility>
 
-#ifndef ZEL_KERNELS
-#error "define ZEL_KERNELS to the family's kernel header before including levels.hpp"
-#endif
+// Without ZEL_KERNELS a translation unit gets the shared kernels only.
+
+// Always inlined (see core/simd/vec.hpp: vectors never cross a real call).
+#define ZEL_VI inline __attribute__((always_inline))
+#define ZEL_VL __attribute__((always_inline)) // the same for a lambda
 
 #define ZEL_LEVEL 1
 #include "core/simd/level.hpp"

@@ -18,8 +18,8 @@
 template <bool A = false, bool NT = false>
 struct Whole {
     static constexpr bool kWhole = true;
-    template <class V> V get(const typename V::Lane* p) const { return load<V>(p); }
-    template <class T, int B> void put(T* p, Vec<T, B> v) const {
+    template <class V> ZEL_VI V get(const typename V::Lane* p) const { return load<V>(p); }
+    template <class T, int B> ZEL_VI void put(T* p, Vec<T, B> v) const {
         if constexpr (NT) stream(p, v);
         else if constexpr (A) store_a(p, v);
         else store(p, v);
@@ -31,15 +31,15 @@ struct Whole {
 struct Part {
     static constexpr bool kWhole = false;
     int n;
-    template <class V> V get(const typename V::Lane* p) const { return load_n<V>(p, n); }
-    template <class T, int B> void put(T* p, Vec<T, B> v) const { store_n(p, v, n); }
+    template <class V> ZEL_VI V get(const typename V::Lane* p) const { return load_n<V>(p, n); }
+    template <class T, int B> ZEL_VI void put(T* p, Vec<T, B> v) const { store_n(p, v, n); }
     int count(int) const { return n; }
 };
 
 // Lanes of V before the first vector-aligned lane of d, or -1 when d is not
 // aligned to its own lane size and so never reaches a vector boundary.
 template <class V>
-inline int head_lanes(const void* d) {
+ZEL_VI int head_lanes(const void* d) {
     constexpr int B = V::kWidth, S = int(sizeof(typename V::Lane));
     const auto addr = reinterpret_cast<std::uintptr_t>(d);
     if (addr % S) return -1;
@@ -49,7 +49,7 @@ inline int head_lanes(const void* d) {
 // Runs body(i, io) over n lanes in vectors V, aligned on d. With NT the
 // aligned whole vectors go out by streaming stores (the caller fences).
 template <class V, bool NT = false, class F>
-inline void walk(int n, const void* d, F&& body) {
+ZEL_VI void walk(int n, const void* d, F&& body) {
     constexpr int L = V::kLanes;
     int i = 0;
     const int head = n >= 2 * L ? head_lanes<V>(d) : -1;

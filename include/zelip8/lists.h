@@ -9,6 +9,7 @@
 #include "zelip8/fn_border.h"
 #include "zelip8/fn_reorder.h"
 #include "zelip8/fn_compare.h"
+#include "zelip8/fn_threshold.h"
 #include "zelip8/fn_sum.h"
 #include "zelip8/fn_minmax.h"
 #include "zelip8/fn_norm.h"

@@ -293,8 +293,44 @@ inline ZelStatus box_64f(const Zel64f* src, int ss, Zel64f* dst, int ds, ZeliSiz
 
 // ---- Sliding sums ---------------------------------------------------------------------------------
 // dst(x, y) = the sum of `mask` samples along a row (ROW) or a column from
-// `anchor` samples before the pixel, as float: exact integers in 32 bits, or
-// in double when the window could pass 2^31.
+// `anchor` samples before the pixel, as float. The sum runs in a float: the
+// first window's samples added one by one, then per step the entering minus
+// the leaving sample, that difference taken in integers. Float rounding thus
+// enters only once a sum passes 2^24; below that every sum is an exact
+// integer, and the running integer sums of the box kernels give the same
+// bits a vector at a time.
+template <class T, int CH, bool ROW>
+void sum_window_float(const T* src, int ss, Zel32f* dst, int ds, ZeliSize roi, int mask, float* col) {
+    const int n = roi.width * CH;
+    if (ROW) {
+        for (int y = 0; y < roi.height; ++y) {
+            const T* r = row(src, ss, y);
+            Zel32f* d = row(dst, ds, y);
+            for (int c = 0; c < CH; ++c) {
+                float s = 0.0f;
+                for (int k = 0; k < mask; ++k) s += float(r[std::ptrdiff_t(k) * CH + c]);
+                d[c] = s;
+                for (int x = 1; x < roi.width; ++x) {
+                    s += float(int(r[std::ptrdiff_t(x - 1 + mask) * CH + c]) - int(r[std::ptrdiff_t(x - 1) * CH + c]));
+                    d[x * CH + c] = s;
+                }
+            }
+        }
+        return;
+    }
+    for (int i = 0; i < n; ++i) col[i] = 0.0f;
+    for (int k = 0; k < mask; ++k) {
+        const T* r = row(src, ss, k);
+        for (int i = 0; i < n; ++i) col[i] += float(r[i]);
+    }
+    for (int y = 0; y < roi.height; ++y) {
+        std::memcpy(row(dst, ds, y), col, sizeof(float) * std::size_t(n));
+        if (y + 1 == roi.height) break;
+        const T *in = row(src, ss, y + mask), *out = row(src, ss, y);
+        for (int i = 0; i < n; ++i) col[i] += float(int(in[i]) - int(out[i]));
+    }
+}
+
 template <class T, int CH, bool ROW>
 ZelStatus sum_window(const T* src, int ss, Zel32f* dst, int ds, ZeliSize roi, int mask, int anchor) {
     if (any_null(src, dst)) return zelStatusNullPointer;
@@ -304,20 +340,27 @@ ZelStatus sum_window(const T* src, int ss, Zel32f* dst, int ds, ZeliSize roi, in
     if (bad_anchor_1d(anchor, mask)) return zelStatusBadAnchor;
     if (roi.height < 1 || roi.width < 1) return zelStatusOk;
     const Margins m = ROW ? box_margins_row(mask, anchor) : box_margins_col(mask, anchor);
-    BoxJob j;
-    j.src = frame_origin(src, ss, m, CH), j.srcStep = ss, j.dst = dst, j.dstStep = ds;
-    j.width = roi.width, j.mW = ROW ? mask : 1, j.mH = ROW ? 1 : mask;
-    const long long biggest = sizeof(T) == 1 ? 255 : 65535;
-    if ((long long)mask * biggest < 0x80000000ll) {
-        const auto k = ZEL_PICK(box_rows<T, std::uint32_t, CH, Rule::ToFloat, Zel32f, false>);
-        return run_bands(
-            roi.height, 1, [&](Carve& c) { return lay_box<std::uint32_t, Zel32f>(c, j, CH); },
-            [&](int first, int rows, const BoxState<std::uint32_t, Zel32f>& st) { k(j, st, first, rows); });
+    const T* origin = frame_origin(src, ss, m, CH);
+    const long long biggest = std::is_same<T, Zel8u>::value ? 255 : std::is_same<T, Zel16s>::value ? 32768 : 65535;
+    if ((long long)mask * biggest > (1ll << 24)) {
+        // sums that may pass 2^24: the float running sum itself
+        if (ROW) {
+            sum_window_float<T, CH, ROW>(origin, ss, dst, ds, roi, mask, nullptr);
+            return zelStatusOk;
+        }
+        if ((long long)roi.width * CH > 0x7fffffff) return zelStatusMemAlloc;
+        Scratch<Zel32f> col(roi.width * CH);
+        if (!col) return zelStatusMemAlloc;
+        sum_window_float<T, CH, ROW>(origin, ss, dst, ds, roi, mask, col.get());
+        return zelStatusOk;
     }
-    const auto k = ZEL_PICK(box_rows<T, double, CH, Rule::ToFloat, Zel32f, false>);
+    BoxJob j;
+    j.src = origin, j.srcStep = ss, j.dst = dst, j.dstStep = ds;
+    j.width = roi.width, j.mW = ROW ? mask : 1, j.mH = ROW ? 1 : mask;
+    const auto k = ZEL_PICK(box_rows<T, std::uint32_t, CH, Rule::ToFloat, Zel32f, false>);
     return run_bands(
-        roi.height, 1, [&](Carve& c) { return lay_box<double, Zel32f>(c, j, CH); },
-        [&](int first, int rows, const BoxState<double, Zel32f>& st) { k(j, st, first, rows); });
+        roi.height, 1, [&](Carve& c) { return lay_box<std::uint32_t, Zel32f>(c, j, CH); },
+        [&](int first, int rows, const BoxState<std::uint32_t, Zel32f>& st) { k(j, st, first, rows); });
 }
 
 } // namespace filt

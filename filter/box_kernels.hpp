@@ -14,9 +14,8 @@
 // through a strided prefix sum (a few vector steps a sample whatever the
 // mask), or are direct sums for narrow masks.
 //
-// Float sums (32f, 64f, and the sliding sums of very long windows in double)
-// are formed in an order fixed by the sample's position alone, the same at
-// every level, thread count and alignment:
+// Float sums (32f, 64f) are formed in an order fixed by the sample's
+// position alone, the same at every level, thread count and alignment:
 //  - column sums: for mH <= 4 the plain sum of the mH samples, top to bottom;
 //    otherwise a running sum ((c + entering) - leaving) that restarts with a
 //    plain sum at every row that is a multiple of restart_block(mH), so a band
@@ -143,19 +142,7 @@ void box_rows(const filt::BoxJob& j, const filt::BoxState<Acc, D>& st, int y0, i
             out = row(dst, j.dstStep, y);
         }
         const Acc* col = st.col;
-        if constexpr (flt && !std::is_same<D, Acc>::value) {
-            // double sums of integer samples (exact) to float, one sample at a time
-            if (mW <= filt::kFreshWFloat) {
-                for (int i = 0; i < n; ++i) {
-                    Acc s = col[i];
-                    for (int q = 1; q < mW; ++q) s = s + col[i + q * CH];
-                    out[i] = D(s);
-                }
-            } else {
-                row_running<CH, Acc>(st.sums, col, j.width, mW);
-                for (int i = 0; i < n; ++i) out[i] = D(st.sums[i]);
-            }
-        } else if (flt ? mW <= filt::kFreshWFloat : mW <= filt::kFreshW) {
+        if (flt ? mW <= filt::kFreshWFloat : mW <= filt::kFreshW) {
             emit(out, [&](int i) ZEL_VL {
                 V s = load<V>(col + i);
                 for (int q = 1; q < mW; ++q) s = s + load<V>(col + i + q * CH);

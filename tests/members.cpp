@@ -505,6 +505,17 @@ void Call::build() {
             }
             slots_[i].ptr = p.extent > 0 ? static_cast<void*>(planeArrays_[i].data())
                                          : planeArrays_[i][0];
+        } else if (n == "ppSrcList" || n == "pCoeffs" || n == "srcCount" || n == "len" ||
+                   (n == "pDst" && find("len") >= 0)) {
+            // a list of 2 * height vectors of `width` samples, their weights, the output vector
+            const int count = 2 * size_.height, len = size_.width, es = elem_size(p.type);
+            if (n == "srcCount" || n == "len") set(i, n == "len" ? len : count);
+            else if (n == "pCoeffs") constant_buffer(i, count, {0.5, -3.25, 7.0, 1.0 / 3, -0.125});
+            else if (n == "pDst") slots_[i].buffer = add_buffer(std::size_t(len) * es, es, p.type, 1);
+            for (int k = 0; n == "ppSrcList" && k < count; ++k)
+                planeArrays_[i].push_back(buffers_[add_buffer(std::size_t(len) * es, es, p.type, 0)]->mem.data());
+            if (n == "pDst") slots_[i].ptr = buffers_[slots_[i].buffer]->mem.data();
+            if (n == "ppSrcList") slots_[i].ptr = planeArrays_[i].data();
         } else if ((p.pointers == 1 || (p.pointers == 0 && p.extent > 0)) && elem_size(p.type) > 0) {
             // outputs: results of statistics, indices, counts
             const int es = elem_size(p.type);

@@ -8,7 +8,10 @@
 #include <gtest/gtest.h>
 #include <xmmintrin.h>
 
+#include <atomic>
 #include <cmath>
+#include <cstring>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -38,6 +41,48 @@ TEST(Frame, WorkersUseTheCallersRoundingMode) {
         EXPECT_EQ(wrong, 0) << "rounding field " << mode;
     }
     zelSetNumThreads(0);
+}
+
+// Calls from several application threads at once, each forking its own team,
+// while another thread changes the thread count and the cache size: every
+// call gives the bytes of a lone call.
+TEST(Frame, CallsFromSeveralApplicationThreads) {
+    const int w = 700, h = 300;
+    zt::Image<float> a(w, h, 1), b(w, h, 1), want(w, h, 1);
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x) a.at(x, y) = float(x * 7 + y) / 9.0f, b.at(x, y) = float(y - x) / 5.0f;
+    ASSERT_EQ(zeliMul_32f_C1R(a.ptr(), a.step(), b.ptr(), b.step(), want.ptr(), want.step(), a.size()), zelStatusOk);
+    Zel64f sum0 = 0;
+    ASSERT_EQ(zeliSum_32f_C1R(want.ptr(), want.step(), want.size(), &sum0, zelAlgHintAccurate), zelStatusOk);
+    std::atomic<int> bad{0};
+    std::atomic<bool> stop{false};
+    std::thread knob([&] {
+        for (int k = 0; !stop; ++k) {
+            zelSetNumThreads(1 + k % 2);
+            zelSetMaxCacheSizeB(k % 3 == 0 ? 0 : 1 << (16 + k % 8));
+            std::this_thread::yield();
+        }
+    });
+    std::vector<std::thread> callers;
+    for (int t = 0; t < 4; ++t)
+        callers.emplace_back([&] {
+            zt::Image<float> d(w, h, 1);
+            for (int round = 0; round < 20; ++round) {
+                Zel64f sum = 0;
+                if (zeliMul_32f_C1R(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), a.size()) != zelStatusOk ||
+                    zeliSum_32f_C1R(d.ptr(), d.step(), d.size(), &sum, zelAlgHintAccurate) != zelStatusOk)
+                    ++bad;
+                for (int y = 0; y < h; ++y)
+                    if (std::memcmp(&d.at(0, y), &want.at(0, y), sizeof(float) * w) != 0) ++bad;
+                if (sum != sum0) ++bad;
+            }
+        });
+    for (auto& c : callers) c.join();
+    stop = true;
+    knob.join();
+    zelSetNumThreads(0);
+    zelSetMaxCacheSizeB(0);
+    EXPECT_EQ(bad.load(), 0);
 }
 
 TEST(Frame, InstructionSetLevel) {

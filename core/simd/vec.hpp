@@ -699,7 +699,11 @@ ZEL_VI Vec<T, 2 * H> concat(Vec<T, H> a, Vec<T, H> b) {
 // through 32-bit lanes.
 template <int N>
 ZEL_VI auto load_low(const void* p) {
-    if constexpr (N == 4) {
+    if constexpr (N == 2) {
+        std::uint16_t v;
+        __builtin_memcpy(&v, p, 2);
+        return _mm_cvtsi32_si128(v);
+    } else if constexpr (N == 4) {
         int v;
         __builtin_memcpy(&v, p, 4);
         return _mm_cvtsi32_si128(v);
@@ -735,6 +739,41 @@ ZEL_VI V load_widen(const T* p) {
     }
 }
 #undef ZEL_WIDEN
+
+// ---- Zel64f lanes from narrower samples (statistics) ------------------------------
+// V::kLanes samples of T from p (any address), converted by value to double
+// lanes: the float or integer widening instructions of each width (the
+// compiler's generic conversion of vectors shorter than 16 bytes goes lane by
+// lane). Every conversion is exact.
+template <class V, class T>
+ZEL_VI V load_f64(const T* p) {
+    static_assert(std::is_same<typename V::Lane, double>::value, "double lanes");
+    constexpr int B = V::kWidth, N = V::kLanes;
+    if constexpr (std::is_same<T, float>::value) {
+        if constexpr (B == 16) return wrap<double, B>(_mm_cvtps_pd(_mm_castsi128_ps(load_low<8>(p))));
+        else if constexpr (B == 32) return wrap<double, B>(_mm256_cvtps_pd(_mm_loadu_ps(p)));
+        else return wrap<double, B>(_mm512_cvtps_pd(_mm256_loadu_ps(p)));
+    } else if constexpr (N == 8) {
+        // 32-bit lanes in one 256-bit register, then converted
+        __m256i w;
+        if constexpr (sizeof(T) == 4) w = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p));
+        else if constexpr (sizeof(T) == 2)
+            w = std::is_signed<T>::value ? _mm256_cvtepi16_epi32(load_low<16>(p)) : _mm256_cvtepu16_epi32(load_low<16>(p));
+        else w = std::is_signed<T>::value ? _mm256_cvtepi8_epi32(load_low<8>(p)) : _mm256_cvtepu8_epi32(load_low<8>(p));
+        if constexpr (std::is_same<T, std::uint32_t>::value) return wrap<double, B>(_mm512_cvtepu32_pd(w));
+        else return wrap<double, B>(_mm512_cvtepi32_pd(w));
+    } else {
+        __m128i w = load_low<N * int(sizeof(T))>(p);
+        if constexpr (sizeof(T) == 2) w = std::is_signed<T>::value ? _mm_cvtepi16_epi32(w) : _mm_cvtepu16_epi32(w);
+        if constexpr (sizeof(T) == 1) w = std::is_signed<T>::value ? _mm_cvtepi8_epi32(w) : _mm_cvtepu8_epi32(w);
+        V d;
+        if constexpr (B == 16) d = wrap<double, B>(_mm_cvtepi32_pd(w));
+        else d = wrap<double, B>(_mm256_cvtepi32_pd(w));
+        if constexpr (std::is_same<T, std::uint32_t>::value) // lanes read as negative are 2^32 too small
+            d = select(lt(d, zero<V>()), d + set1<V>(4294967296.0), d);
+        return d;
+    }
+}
 
 // ---- Neighbourhood filters: lane moves, running sums, double rounding ------------------
 // Integer prefix sums within a vector (the horizontal sums of the box filter)
@@ -818,4 +857,3 @@ ZEL_VI void unzip(Vec<std::int32_t, B>& lo, Vec<std::int32_t, B>& hi) {
         hi = wrap<std::int32_t, B>(_mm512_permutex2var_epi64(l, _mm512_setr_epi64(4, 5, 12, 13, 6, 7, 14, 15), h));
     }
 }
-

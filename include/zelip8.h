@@ -4864,6 +4864,758 @@ ZELAPI ZelStatus zeliRShiftC_32s_AC4IR(
 /* zeliComplement */
 ZELAPI ZelStatus zeliComplement_32s_C1IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
 
+/* ==== Box filter ========================================================
+
+   zeliFilterBox replaces every pixel by the mean of a maskSize rectangle of
+   source pixels: dst(x, y) = mean of src(x - anchor.x + i, y - anchor.y + j),
+   i < maskSize.width, j < maskSize.height (the mask is not reflected). Nothing
+   pads: the caller keeps anchor.x columns to the left of the region,
+   maskSize.width - 1 - anchor.x to its right, anchor.y rows above and
+   maskSize.height - 1 - anchor.y below readable. The cost does not grow with
+   the mask. Integer means follow fixed formulas per type and path (8u:
+   (S * mul + half) >> shift, or a truncated float product above an area of
+   8100; 16s and 16u: rounded float products); 32f and 64f multiply a float
+   sum by 1 / area. AC4 leaves the destination alpha alone. The I forms work
+   in place; equal source and destination pointers make the call the in-place
+   one on the destination's step. 16-bit and 32f steps count whole samples.
+
+   Checks: zelStatusNullPointer, zelStatusBadStep (a step below 1), then
+   zelStatusBadSize, zelStatusBadMaskSize and zelStatusBadAnchor (an anchor
+   outside the mask); 32f C1R then zelStatusBadStep for a source step below
+   (width + maskSize.width - 1) * 4 or a destination step below width * 4.
+   64f C1R: zelStatusNullPointer, zelStatusBadSize (region or mask),
+   zelStatusBadStep (as 32f C1R, in 8-byte samples); no anchor test.
+   zelStatusMemAlloc when working memory cannot be had (nothing is written).
+
+   Example:
+       Zel8u src[6 * 6], dst[4 * 4];
+       for (int i = 0; i < 6 * 6; ++i) src[i] = (Zel8u)(i * 7);
+       ZeliSize roi = {4, 4}, mask = {3, 3};
+       ZeliPoint anchor = {1, 1};
+       // the 3x3 mean around each pixel of the 4x4 region inside the 6x6 frame
+       ZelStatus st = zeliFilterBox_8u_C1R(src + 6 + 1, 6, dst, 4, roi, mask, anchor); */
+
+/* zeliFilterBox */
+ZELAPI ZelStatus zeliFilterBox_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_C1IR(
+    Zel8u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_C3IR(
+    Zel8u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_C4IR(
+    Zel8u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_8u_AC4IR(
+    Zel8u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_C1IR(
+    Zel16s * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_C3IR(
+    Zel16s * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_C4IR(
+    Zel16s * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16s_AC4IR(
+    Zel16s * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_C1IR(
+    Zel16u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_C3IR(
+    Zel16u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_C4IR(
+    Zel16u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_16u_AC4IR(
+    Zel16u * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_C1IR(
+    Zel32f * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_C3IR(
+    Zel32f * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_C4IR(
+    Zel32f * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_32f_AC4IR(
+    Zel32f * pSrcDst, int srcDstStep, ZeliSize roiSize, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterBox_64f_C1R(
+    const Zel64f* pSrc, int srcStep, Zel64f* pDst, int dstStep, ZeliSize dstRoiSize,
+    ZeliSize maskSize, ZeliPoint anchor);
+
+/* ==== Sliding window sums ===============================================
+
+   zeliSumWindowRow writes the plain sum of maskSize samples along a row,
+   dst(x, y) = sum of src(x - anchor + k, y), k < maskSize, per channel, as
+   32-bit floats; zeliSumWindowColumn the same down a column,
+   dst(x, y) = sum of src(x, y - anchor + k). Sums are exact integers rounded
+   once to float. Nothing pads: the caller keeps the anchor's samples before
+   the region and maskSize - 1 - anchor after it readable. Steps are not
+   checked.
+
+   Checks: zelStatusNullPointer, (zeliSumWindowRow_16u32f only:
+   zelStatusBadSize for a width or height below 1), zelStatusBadMaskSize (a
+   mask below 1), zelStatusBadAnchor (an anchor outside the mask). The others
+   do not test the region: a height or width below 1 writes nothing and gives
+   zelStatusOk. zelStatusMemAlloc when working memory cannot be had.
+
+   Example:
+       Zel8u src[3 + 2] = {1, 2, 3, 4, 5};
+       Zel32f dst[3];
+       ZeliSize roi = {3, 1};
+       // sums of three samples, centred: 6, 9, 12
+       ZelStatus st = zeliSumWindowRow_8u32f_C1R(src + 1, 5, dst, 12, roi, 3, 1); */
+
+/* zeliSumWindowRow */
+ZELAPI ZelStatus zeliSumWindowRow_8u32f_C1R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_8u32f_C3R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_8u32f_C4R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_16u32f_C1R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_16u32f_C3R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_16u32f_C4R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_16s32f_C1R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_16s32f_C3R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowRow_16s32f_C4R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+
+/* zeliSumWindowColumn */
+ZELAPI ZelStatus zeliSumWindowColumn_8u32f_C1R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_8u32f_C3R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_8u32f_C4R(
+    const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_16u32f_C1R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_16u32f_C3R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_16u32f_C4R(
+    const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_16s32f_C1R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_16s32f_C3R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+ZELAPI ZelStatus zeliSumWindowColumn_16s32f_C4R(
+    const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize, int maskSize,
+    int anchor);
+
+/* ==== Row and column filters ============================================
+
+   zeliFilterRow convolves every row with a kernel of kernelSize taps,
+   dst(x, y) = sum of pKernel[i] * src(x + xAnchor - i, y); zeliFilterColumn
+   the same down the columns, dst(x, y) = sum of pKernel[i] *
+   src(x, y + yAnchor - i). The kernel is reversed against the image
+   (pKernel[xAnchor] meets the pixel under the destination pixel); nothing
+   pads: the caller keeps kernelSize - 1 - anchor pixels before the region
+   (left, or above) and anchor after it readable. The anchor is not tested.
+   8u forms with a Zel32s kernel sum 32-bit integers and divide by divisor
+   (ties to even, saturated); 16s and 16u forms with a Zel32s kernel scale
+   every tap by 1 / divisor first and sum floats; the Row32f and Column32f
+   forms take float taps for integer images (the float sum rounded to
+   nearest, ties to even, saturated); 32f and 64f sum in their own type.
+   Every float sum adds the taps in kernel order. AC4 leaves the destination
+   alpha alone. Source and destination must not overlap.
+
+   Checks: zelStatusNullPointer (source, destination, kernel), zelStatusBadSize
+   (region or kernelSize below 1), zelStatusBadDivisor (a zero divisor),
+   zelStatusBadStep (row forms: a source step below (width + kernelSize - 1)
+   pixels; a destination step, or a column form's source step, below width
+   pixels). The 16s and 16u Zel32s forms test the kernel, kernelSize and
+   divisor first; the column C3 and C4 forms test the width first.
+   zelStatusMemAlloc when 16s or 16u taps above 256 find no memory.
+
+   Example:
+       Zel32f src[1 * (4 + 2)] = {0, 1, 2, 3, 4, 5}, dst[4];
+       const Zel32f kernel[3] = {0.25f, 0.5f, 0.25f};
+       ZeliSize roi = {4, 1};
+       // a centred 1-2-1 smoothing: dst[x] = (src[x] + 2 src[x+1] + src[x+2]) / 4
+       ZelStatus st = zeliFilterRow_32f_C1R(src + 1, 24, dst, 16, roi, kernel, 3, 1); */
+
+/* zeliFilterRow */
+ZELAPI ZelStatus zeliFilterRow_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow_64f_C1R(
+    const Zel64f* pSrc, int srcStep, Zel64f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel64f* pKernel, int kernelSize, int xAnchor);
+
+/* zeliFilterRow32f */
+ZELAPI ZelStatus zeliFilterRow32f_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int xAnchor);
+
+/* zeliFilterColumn */
+ZELAPI ZelStatus zeliFilterColumn_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn_64f_C1R(
+    const Zel64f* pSrc, int srcStep, Zel64f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel64f* pKernel, int kernelSize, int yAnchor);
+
+/* zeliFilterColumn32f */
+ZELAPI ZelStatus zeliFilterColumn32f_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, int kernelSize, int yAnchor);
+
+/* ==== General two-dimensional filter ====================================
+
+   zeliFilter convolves the image with a kernelSize.width x kernelSize.height
+   kernel (row-major): dst(x, y) = sum of pKernel[j * kW + i] *
+   src(x + anchor.x - i, y + anchor.y - j). The kernel is reversed in both
+   axes, so the tap at the anchor meets the pixel under the destination
+   pixel; nothing pads: the caller keeps kW - 1 - anchor.x columns left of
+   the region, anchor.x right of it, kH - 1 - anchor.y rows above and
+   anchor.y below readable. The anchor is not tested. 8u sums 32-bit
+   integers and 16s C1R 64-bit integers, divided by divisor (a power of two
+   by a shift with ties to even, others through a float reciprocal), 16s C3R,
+   C4R, AC4R and 16u scale the taps by 1 / divisor first and sum floats, 32f
+   and 64f sum in their own type, every float sum in kernel order. The Round
+   forms take a round mode (0 towards zero, 1 ties to even, 2 ties away) and
+   a buffer whose size zeliFilterRoundGetBufSize... (zeliFilterGetBufSize_64f_C1R
+   for the 64f form) gives for the thread count of the call. AC4 leaves the
+   destination alpha alone. Source and destination must not overlap.
+
+   Checks: zelStatusNullPointer (source, destination, kernel), zelStatusBadSize
+   (region or kernel below 1), zelStatusBadDivisor (a zero divisor),
+   zelStatusBadStep (a source step below (width + kW - 1) pixels or a
+   destination step below width pixels), zelStatusBadRoundMode (a mode other
+   than 0, 1, 2), zelStatusNullPointer (a null buffer). 16s C3R, C4R, AC4R and
+   16u test the kernel, its size and the divisor first. zelStatusMemAlloc when
+   their scaled taps above 256 find no memory.
+
+   Example:
+       Zel8u src[5 * 5], dst[3 * 3];
+       for (int i = 0; i < 25; ++i) src[i] = (Zel8u)(i * 10);
+       const Zel32s kernel[9] = {1, 2, 1, 2, 4, 2, 1, 2, 1};
+       ZeliSize roi = {3, 3}, ksize = {3, 3};
+       ZeliPoint anchor = {1, 1};
+       // a 3x3 Gaussian blur of the centre 3x3 pixels, divided by 16
+       ZelStatus st = zeliFilter_8u_C1R(src + 5 + 1, 5, dst, 3, roi, kernel, ksize, anchor, 16); */
+
+/* zeliFilter */
+ZELAPI ZelStatus zeliFilter_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_32f_C1R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter_32f_C3R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter_32f_C4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter_32f_AC4R(
+    const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter_64f_C1R(
+    const Zel64f* pSrc, int srcStep, Zel64f* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel64f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round16s_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel16s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundMode roundMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round16s_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel16s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundMode roundMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round16s_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel16s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundMode roundMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round16s_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel16s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundMode roundMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundMode roundMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundMode roundMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundMode roundMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundMode roundMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundMode roundMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundMode roundMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundMode roundMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundMode roundMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundMode roundMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundMode roundMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundMode roundMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundMode roundMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundMode roundMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundMode roundMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundMode roundMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundMode roundMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundMode roundMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundMode roundMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundMode roundMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundMode roundMode,
+    Zel8u* pBuffer);
+
+/* ==== Two-dimensional filter with float taps, and the buffer sizes of the Round forms ====
+
+   zeliFilter32f convolves an integer image with a Zel32f kernel as
+   zeliFilter does (the kernel reversed in both axes, anchor untested,
+   nothing padded) and converts the float sum, formed in kernel order, to the
+   destination type with rounding to nearest, ties to even, and saturation;
+   8s16s and 8u16s write 16s from an 8-bit source. zeliFilterRoundGetBufSize...
+   and zeliFilterGetBufSize_64f_C1R give the bytes of the buffer the matching
+   zeliFilter form takes, for a kernel and a destination width, for the
+   thread count at the time of the query (which must be the one of the
+   filter call).
+
+   Checks: zeliFilter32f as zeliFilter without a divisor. The size queries:
+   zelStatusNullPointer, then zelStatusBadSize for a kernel side or width
+   below 1, or a size that does not fit 32 bits.
+
+   Example:
+       Zel16u src[4 * 3], dst[2 * 3];
+       for (int i = 0; i < 12; ++i) src[i] = (Zel16u)(1000 * i);
+       const Zel32f kernel[3] = {0.25f, 0.5f, 0.25f};
+       ZeliSize roi = {2, 3}, ksize = {3, 1};
+       ZeliPoint anchor = {1, 0};
+       int bytes = 0;
+       ZelStatus st = zeliFilter32f_16u_C1R(src + 1, 8, dst, 4, roi, kernel, ksize, anchor);
+       if (st == zelStatusOk) st = zeliFilterRoundGetBufSize32f_16u_C1R(ksize, 2, &bytes); */
+
+/* zeliFilter32f */
+ZELAPI ZelStatus zeliFilter32f_16s_C1R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16s_C3R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16s_C4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16s_AC4R(
+    const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16u_C1R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16u_C3R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16u_C4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16u_AC4R(
+    const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8u_C1R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8u_C3R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8u_C4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8u_AC4R(
+    const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_32s_C1R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_32s_C3R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_32s_C4R(
+    const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8s_C1R(
+    const Zel8s* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8s_C3R(
+    const Zel8s* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8s_C4R(
+    const Zel8s* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8s16s_C1R(
+    const Zel8s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8s16s_C3R(
+    const Zel8s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8s16s_C4R(
+    const Zel8s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8u16s_C1R(
+    const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8u16s_C3R(
+    const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8u16s_C4R(
+    const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+
+/* zeliFilterRoundGetBufSize16s */
+ZELAPI ZelStatus zeliFilterRoundGetBufSize16s_8u_C1R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize16s_8u_C3R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize16s_8u_C4R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize16s_8u_AC4R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+
+/* zeliFilterRoundGetBufSize32s */
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16s_C1R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16s_C3R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16s_C4R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16s_AC4R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16u_C1R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16u_C3R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16u_C4R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16u_AC4R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+
+/* zeliFilterRoundGetBufSize32f */
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16s_C1R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16s_C3R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16s_C4R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16s_AC4R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16u_C1R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16u_C3R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16u_C4R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16u_AC4R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_8u_C1R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_8u_C3R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_8u_C4R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_8u_AC4R(
+    ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+
+/* zeliFilterGetBufSize */
+ZELAPI ZelStatus zeliFilterGetBufSize_64f_C1R(ZeliSize kernelSize, int dstWidth, int* pBufferSize);
+
 #ifdef __cplusplus
 }
 #endif

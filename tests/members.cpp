@@ -140,6 +140,7 @@ struct Call::Buffer {
     GuardedBuffer mem;
     std::vector<std::uint8_t> first;
     std::string elem;
+    bool compared = true; // false: working store or a thread-dependent answer
     Buffer(std::size_t bytes, const std::string& e) : mem(bytes < 1 ? 1 : bytes), first(mem.size()), elem(e) {}
 };
 
@@ -242,6 +243,50 @@ void Call::build() {
         im.step = int(rowBytes + im.esize * int(rng() % 3) * (rng() % 2));
         imgs[p.name] = im;
     }
+    // ---- Neighbourhood filters -------------------------------------------------------------
+    // Masks, anchors, kernels, divisors and work buffers, and the frame of
+    // source pixels a mask and anchor read: the source image is exactly that
+    // frame, so a read one pixel beyond it traps. Own generator, so that the
+    // other members keep their arguments.
+    struct Nb {
+        bool on = false;
+        ZeliSize mask{1, 1};  // a box mask or a two-dimensional kernel
+        ZeliPoint anchor{0, 0};
+        int len = 1, anc = 0; // a one-dimensional mask or kernel
+        int left = 0, top = 0, right = 0, bottom = 0;
+    } nb;
+    std::mt19937 frng(seed_ * 2654435761u + 17u);
+    auto nb_pick = [&](int lo, int hi) { return lo + int(frng() % unsigned(hi - lo + 1)); };
+    {
+        const std::string& mn = m_.name;
+        const bool box = starts(mn, "zeliFilterBox"), swRow = starts(mn, "zeliSumWindowRow"),
+                   swCol = starts(mn, "zeliSumWindowColumn"), row1 = starts(mn, "zeliFilterRow"),
+                   col1 = starts(mn, "zeliFilterColumn"),
+                   two = starts(mn, "zeliFilter_") || starts(mn, "zeliFilter32f_") || mn.find("GetBufSize") != std::string::npos;
+        nb.on = box || swRow || swCol || row1 || col1 || two;
+        if (nb.on) {
+            nb.mask = {nb_pick(1, 5), nb_pick(1, 5)};
+            nb.anchor = {nb_pick(0, nb.mask.width - 1), nb_pick(0, nb.mask.height - 1)};
+            nb.len = nb_pick(1, 7);
+            nb.anc = nb_pick(0, nb.len - 1);
+            if (box) nb.left = nb.anchor.x, nb.top = nb.anchor.y, nb.right = nb.mask.width - 1 - nb.anchor.x,
+                     nb.bottom = nb.mask.height - 1 - nb.anchor.y;
+            if (swRow) nb.left = nb.anc, nb.right = nb.len - 1 - nb.anc;
+            if (swCol) nb.top = nb.anc, nb.bottom = nb.len - 1 - nb.anc;
+            if (row1) nb.left = nb.len - 1 - nb.anc, nb.right = nb.anc;
+            if (col1) nb.top = nb.len - 1 - nb.anc, nb.bottom = nb.anc;
+            if (two) nb.left = nb.mask.width - 1 - nb.anchor.x, nb.top = nb.mask.height - 1 - nb.anchor.y,
+                     nb.right = nb.anchor.x, nb.bottom = nb.anchor.y;
+            for (const char* name : {"pSrc", "pSrcDst"}) {
+                auto it = imgs.find(name);
+                if (it == imgs.end()) continue;
+                Img& im = it->second;
+                const int extra = im.step - im.size.width * im.ch * im.esize;
+                im.size = {im.size.width + nb.left + nb.right, im.size.height + nb.top + nb.bottom};
+                im.step = im.size.width * im.ch * im.esize + extra;
+            }
+        }
+    }
     auto image_of_step = [&](const std::string& stepName) -> std::string {
         const std::string base = stepName.substr(0, stepName.size() - 4); // without "Step"
         if (base == "mask") return "pMask";
@@ -307,9 +352,61 @@ void Call::build() {
     std::vector<double> vrange = ordered("Zel32f", 2);
     if (vrange[0] == vrange[1]) vrange[1] += 1;
 
+    // Values of the filters' own parameters; false for a parameter of another kind.
+    auto nb_param = [&](int i) {
+        const Param& p = ps[i];
+        const std::string& n = p.name;
+        if (n == "maskSize" || n == "kernelSize") {
+            if (p.type == "ZeliSize") set(i, nb.mask);
+            else set(i, nb.len);
+        } else if (n == "anchor") {
+            if (p.type == "ZeliPoint") set(i, nb.anchor);
+            else set(i, nb.anc);
+        } else if (n == "xAnchor" || n == "yAnchor") {
+            set(i, nb.anc);
+        } else if (n == "divisor") {
+            const int ds[] = {1, 2, 4, 3, 5, -3, 7, 9, 16, 10, -1};
+            set(i, ds[frng() % 11]);
+        } else if (n == "dstWidth") {
+            set(i, size_.width);
+        } else if (n == "pKernel") {
+            const int count = find("kernelSize") >= 0 && type_of("kernelSize") == "ZeliSize" ? nb.mask.width * nb.mask.height : nb.len;
+            std::vector<double> v;
+            for (int k = 0; k < count; ++k) {
+                if (is_float(p.type)) v.push_back((int(frng() % 129) - 64) / 64.0);
+                else if (p.type == "Zel16s") v.push_back(int(frng() % 41) - 20);
+                else v.push_back(int(frng() % 11) - 4);
+            }
+            constant_buffer(i, count, v);
+        } else if (n == "pBuffer") {
+            // sized by the member's query for eight threads; working store, not compared
+            std::string q = m_.name;
+            const std::string from = starts(q, "zeliFilter_Round") ? "zeliFilter_Round" : "zeliFilter_";
+            q.replace(0, from.size(), from == "zeliFilter_" ? "zeliFilterGetBufSize_" : "zeliFilterRoundGetBufSize");
+            int bytes = 0;
+            for (const Member& o : members())
+                if (o.name == q) reinterpret_cast<ZelStatus (*)(ZeliSize, int, int*)>(o.fn)(nb.mask, size_.width, &bytes);
+            const int threads = ownGetNumThreads();
+            const int b = add_buffer(std::size_t(bytes > 0 ? bytes / threads * (threads > 8 ? threads : 8) : 1), 1, p.type, 1);
+            buffers_[b]->compared = false;
+            slots_[i].ptr = buffers_[b]->mem.data();
+            slots_[i].buffer = b;
+        } else if (n == "pBufferSize") {
+            // the size depends on the thread count of the query
+            const int b = add_buffer(4, 4, p.type, 1);
+            buffers_[b]->compared = false;
+            slots_[i].ptr = buffers_[b]->mem.data();
+            slots_[i].buffer = b;
+        } else {
+            return false;
+        }
+        return true;
+    };
+
     for (int i = 0; i < np; ++i) {
         const Param& p = ps[i];
         const std::string& n = p.name;
+        if (nb.on && nb_param(i)) continue;
         double lo, hi;
         type_range(p.type, lo, hi);
         if (imgs.count(n)) {
@@ -333,6 +430,7 @@ void Call::build() {
                 slots_[i].step = im.step, slots_[i].channels = im.ch, slots_[i].size = im.size;
                 std::uint8_t* base = buffers_[b]->mem.data();
                 if (inPlaceBorder) base += std::size_t(top) * im.step + std::size_t(left) * im.ch * im.esize;
+                if (nb.on && (n == "pSrc" || n == "pSrcDst")) base += std::size_t(nb.top) * im.step + std::size_t(nb.left) * im.ch * im.esize;
                 slots_[i].ptr = base;
             }
         } else if (n.size() > 4 && n.compare(n.size() - 4, 4, "Step") == 0 && p.pointers == 0) {
@@ -465,6 +563,7 @@ ZelStatus Call::run() {
 std::vector<std::uint8_t> Call::bytes(bool canonicalNan) const {
     std::vector<std::uint8_t> all;
     for (const auto& b : buffers_) {
+        if (!b->compared) continue;
         const std::size_t at = all.size(), n = b->mem.size();
         all.insert(all.end(), b->mem.data(), b->mem.data() + n);
         if (!canonicalNan) continue;

@@ -27,6 +27,7 @@
 #include <cstring>
 #include <limits>
 #include <type_traits>
+#include <utility>
 
 // Without ZEL_KERNELS a translation unit gets the shared kernels only.
 

@@ -783,6 +783,61 @@ ZEL_VI Vec<std::int32_t, B> trunc_int(Vec<double, B> a, Vec<double, B> b) {
     return concat(convert<std::int32_t>(a), convert<std::int32_t>(b));
 }
 
+// ---- Neighbourhood filters: lane moves, running sums, double rounding ------------------
+// Integer prefix sums within a vector (the horizontal sums of the box filter)
+// and the double-precision rounding of the filters' quotients. The lane moves
+// are compile-time shuffles; the compiler picks the instructions per width.
+template <class T, int B, int... I>
+ZEL_VI Vec<T, B> shuffle_lanes(Vec<T, B> a, Vec<T, B> b, std::integer_sequence<int, I...>) {
+    return Vec<T, B>{__builtin_shufflevector(a.v, b.v, I...)};
+}
+template <int N, int L, int... I>
+constexpr auto shift_up_index(std::integer_sequence<int, I...>) {
+    return std::integer_sequence<int, (I >= N ? I - N : L + I)...>{};
+}
+template <int C, int L, int... I>
+constexpr auto repeat_last_index(std::integer_sequence<int, I...>) {
+    return std::integer_sequence<int, (L - C + I % C)...>{};
+}
+
+// Lanes moved up by N places: lane i takes lane i - N, the first N lanes are 0.
+template <int N, class T, int B>
+ZEL_VI Vec<T, B> shift_up(Vec<T, B> a) {
+    constexpr int L = Vec<T, B>::kLanes;
+    if constexpr (N >= L) return zero<Vec<T, B>>();
+    else return shuffle_lanes(a, zero<Vec<T, B>>(), shift_up_index<N, L>(std::make_integer_sequence<int, L>{}));
+}
+
+// The last C lanes repeated by residue: lane i takes lane L - C + i % C (C <= L).
+template <int C, class T, int B>
+ZEL_VI Vec<T, B> repeat_last(Vec<T, B> a) {
+    constexpr int L = Vec<T, B>::kLanes;
+    static_assert(C <= L, "at most the lane count");
+    return shuffle_lanes(a, a, repeat_last_index<C, L>(std::make_integer_sequence<int, L>{}));
+}
+
+// Inclusive prefix sum with stride C: lane i holds a[i] + a[i - C] + a[i - 2C] + ...
+// Integer lanes only (wrapping): a float sum would depend on the grouping.
+template <int C, int S = C, class T, int B>
+ZEL_VI Vec<T, B> scan_add(Vec<T, B> a) {
+    static_assert(std::is_integral<T>::value, "integer lanes");
+    if constexpr (S >= Vec<T, B>::kLanes) return a;
+    else return scan_add<C, 2 * S>(a + shift_up<S>(a));
+}
+
+// The low or the high half of a vector's lanes (concat joins them again).
+template <class T, int B>
+ZEL_VI Vec<T, B / 2> half_lo(Vec<T, B> a) {
+    Vec<T, B / 2> h;
+    __builtin_memcpy(&h.v, &a.v, B / 2);
+    return h;
+}
+template <class T, int B>
+ZEL_VI Vec<T, B / 2> half_hi(Vec<T, B> a) {
+    Vec<T, B / 2> h;
+    __builtin_memcpy(&h.v, reinterpret_cast<const char*>(&a.v) + B / 2, B / 2);
+    return h;
+}
 // Rounding of double lanes to integral values by a fixed mode, as round_to of
 // float lanes.
 template <int Mode, int B>
@@ -834,5 +889,24 @@ ZEL_VI Vec<float, B> lookup8(const float* table, Vec<std::int32_t, B> idx) {
         return wrap<float, B>(_mm256_permutevar8x32_ps(_mm256_loadu_ps(table), ri(idx)));
     } else {
         return wrap<float, B>(_mm512_permutexvar_ps(ri(idx), _mm512_zextps256_ps512(_mm256_loadu_ps(table))));
+    }
+}
+
+// ---- Neighbourhood filters: pairs of 16-bit taps ---------------------------------------
+// Sums of 8-bit samples with 16-bit taps two taps at a time through madd on
+// interleave_lo(a, b) and interleave_hi(a, b) (the pairs madd multiplies are
+// formed per 128-bit block); unzip(lo, hi) puts the 32-bit results of the
+// two back in lane order: the first returns lanes 0 .. L/2 - 1, the second
+// the rest.
+template <int B>
+ZEL_VI void unzip(Vec<std::int32_t, B>& lo, Vec<std::int32_t, B>& hi) {
+    if constexpr (B == 32) {
+        const __m256i l = ri(lo), h = ri(hi);
+        lo = wrap<std::int32_t, B>(_mm256_permute2x128_si256(l, h, 0x20));
+        hi = wrap<std::int32_t, B>(_mm256_permute2x128_si256(l, h, 0x31));
+    } else if constexpr (B == 64) {
+        const __m512i l = ri(lo), h = ri(hi);
+        lo = wrap<std::int32_t, B>(_mm512_permutex2var_epi64(l, _mm512_setr_epi64(0, 1, 8, 9, 2, 3, 10, 11), h));
+        hi = wrap<std::int32_t, B>(_mm512_permutex2var_epi64(l, _mm512_setr_epi64(4, 5, 12, 13, 6, 7, 14, 15), h));
     }
 }

@@ -16,3 +16,8 @@
 #include "zelip8/fn_hist.h"
 #include "zelip8/fn_unary.h"
 #include "zelip8/fn_logic.h"
+#include "zelip8/fn_filter_box.h"
+#include "zelip8/fn_filter_sumwin.h"
+#include "zelip8/fn_filter_sep.h"
+#include "zelip8/fn_filter_2d.h"
+#include "zelip8/fn_filter_2d32f.h"

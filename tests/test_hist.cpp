@@ -36,10 +36,8 @@ struct Hist {
 
 std::vector<Hist> hists() {
     std::vector<Hist> v;
-    for (const zt::Member& m : zt::members()) {
-        const zt::NameParts n = zt::name_parts(m.name);
-        if (n.family.rfind("Histogram", 0) == 0 || n.family == "CountInRange") v.push_back({&m, n});
-    }
+    for (const zt::Member& m : zt::members())
+        if (m.name.rfind("zeliHistogram", 0) == 0 || m.name.rfind("zeliCountInRange", 0) == 0) v.push_back({&m, zt::name_parts(m.name)});
     return v;
 }
 

@@ -48,11 +48,11 @@ struct Norm {
 std::vector<Norm> norms() {
     std::vector<Norm> v;
     for (const zt::Member& m : zt::members()) {
+        if (m.name.compare(0, 8, "zeliNorm") != 0) continue; // name parts of this family's names only
         const zt::NameParts n = zt::name_parts(m.name);
-        if (n.family.compare(0, 4, "Norm") == 0)
-            v.push_back({&m, n.family == "Norm" ? Single : n.family == "NormDiff" ? Diff : Rel,
-                         n.variant == "Inf" ? Inf : n.variant == "L1" ? L1 : L2, n.type, n.channels, n.active,
-                         m.params.back().name == "hint"});
+        v.push_back({&m, n.family == "Norm" ? Single : n.family == "NormDiff" ? Diff : Rel,
+                     n.variant == "Inf" ? Inf : n.variant == "L1" ? L1 : L2, n.type, n.channels, n.active,
+                     m.params.back().name == "hint"});
     }
     return v;
 }

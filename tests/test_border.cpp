@@ -1,6 +1,8 @@
-// Border copies against a reference that computes each destination pixel
-// from its position: a constant, the clamped or the wrapped source pixel.
-#include "guard.hpp"
+// Every border copy of the declaration list against a reference that computes
+// each destination pixel from its position: a constant, the clamped or the
+// wrapped source pixel; in place only the frame; AC4 alpha kept.
+#include "family_util.hpp"
+#include "named_args.hpp"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +11,29 @@
 
 namespace {
 
-enum class Kind { Const, Replicate, Wrap };
+// The arguments of a border copy by parameter name; each member reads the
+// fields its parameters name.
+struct BorderArgs {
+    zt::AnyPtr pSrc, pDst, pSrcDst;
+    int srcStep = 0, dstStep = 0, srcDstStep = 0, topBorderHeight = 0, leftBorderWidth = 0;
+    ZeliSize srcRoiSize{}, dstRoiSize{};
+    zt::AnyParam value;
+};
+struct Member {
+    const char* name;
+    ZelStatus (*call)(BorderArgs&);
+};
+const Member kMembers[] = {
+#define ZEL_FN(ret, name, params, args, impl)                   \
+    {#name, [](BorderArgs& a) -> ZelStatus {                    \
+         struct Fields : BorderArgs {                           \
+             ZelStatus call() { return name args; }             \
+         } f{a};                                                \
+         return f.call();                                       \
+     }},
+#include "zelip8/fn_border.h"
+#undef ZEL_FN
+};
 
 struct Geometry {
     int sw, sh, dw, dh, top, left;
@@ -21,93 +45,59 @@ const Geometry kGeometries[] = {
 int wrap(int a, int m) { return ((a % m) + m) % m; }
 int clampi(int a, int lo, int hi) { return a < lo ? lo : a > hi ? hi : a; }
 
-// Expected destination bytes: the old bytes with every pixel of the
-// destination rectangle recomputed (AC4: alpha kept). `src(x, y, c)` reads
-// the source as it was before the call.
-template <class T, class Src>
-std::vector<std::uint8_t> expected(Kind kind, const Geometry& g, int ch, bool ac4, int dstStep,
-                                   const std::vector<std::uint8_t>& old, Src src, const T* value, bool frameOnly) {
-    std::vector<std::uint8_t> e = old;
-    for (int y = 0; y < g.dh; ++y)
-        for (int x = 0; x < g.dw; ++x) {
-            const int sx = x - g.left, sy = y - g.top;
-            const bool inside = sx >= 0 && sx < g.sw && sy >= 0 && sy < g.sh;
-            if (inside && frameOnly) continue;
-            for (int c = 0; c < (ac4 ? 3 : ch); ++c) {
-                T v;
-                if (kind == Kind::Const)
-                    v = inside ? src(sx, sy, c) : value[c];
-                else if (kind == Kind::Replicate)
-                    v = src(clampi(sx, 0, g.sw - 1), clampi(sy, 0, g.sh - 1), c);
-                else
-                    v = src(wrap(sx, g.sw), wrap(sy, g.sh), c);
-                std::memcpy(e.data() + std::size_t(y) * dstStep + (std::size_t(x) * ch + c) * sizeof(T), &v, sizeof(T));
-            }
-        }
-    return e;
+// Every member over every geometry, padded rows and both guard placements.
+// Images are bytes: a pixel is P bytes, a sample S. In place, the
+// destination holds the source at (left, top) and only the frame may change.
+TEST(Border, EveryMemberAgainstItsRule) {
+    std::uint32_t seed = 3;
+    int seen = 0;
+    for (const Member& m : kMembers) {
+        const zt::NameParts n = zt::name_parts(m.name);
+        const int S = n.sampleBytes, P = n.channels * S;
+        std::uint8_t value[16];
+        ASSERT_TRUE(zt::with_type(n.type, [&](auto t) {
+            using T = decltype(t);
+            const T v[4] = {T(11), T(-7), T(100), T(42)};
+            std::memcpy(value, v, sizeof v);
+        }));
+        ++seen;
+        for (const Geometry& g : kGeometries)
+            for (int extra : {0, 3})
+                for (zt::Flush flush : {zt::Flush::Head, zt::Flush::Tail}) {
+                    zt::Image<std::uint8_t> src(n.inPlace ? 1 : g.sw, n.inPlace ? 1 : g.sh, P, extra * S);
+                    zt::Image<std::uint8_t> dst(g.dw, g.dh, P, extra * 2 * S, flush, std::size_t(extra) * S);
+                    src.fill_random(++seed);
+                    dst.fill_random(++seed);
+                    const auto old = dst.bytes();
+                    // source pixel (x, y) as it was before the call
+                    auto at = [&](int x, int y) {
+                        return n.inPlace ? old.data() + std::size_t(y + g.top) * dst.step() + std::size_t(x + g.left) * P
+                                         : &src.at(x, y);
+                    };
+                    std::vector<std::uint8_t> want = old;
+                    for (int y = 0; y < g.dh; ++y)
+                        for (int x = 0; x < g.dw; ++x) {
+                            const int sx = x - g.left, sy = y - g.top;
+                            const bool inside = sx >= 0 && sx < g.sw && sy >= 0 && sy < g.sh;
+                            if (inside && n.inPlace) continue;
+                            const std::uint8_t* from =
+                                n.family == "CopyConstBorder" ? (inside ? at(sx, sy) : value)
+                                : n.family == "CopyReplicateBorder" ? at(clampi(sx, 0, g.sw - 1), clampi(sy, 0, g.sh - 1))
+                                                                    : at(wrap(sx, g.sw), wrap(sy, g.sh));
+                            std::memcpy(want.data() + std::size_t(y) * dst.step() + std::size_t(x) * P, from, n.active * S);
+                        }
+                    BorderArgs a;
+                    a.pSrc.p = src.ptr(), a.srcStep = src.step(), a.pDst.p = dst.ptr(), a.dstStep = dst.step();
+                    a.pSrcDst.p = &dst.at(g.left, g.top), a.srcDstStep = dst.step();
+                    a.srcRoiSize = {g.sw, g.sh}, a.dstRoiSize = dst.size(), a.topBorderHeight = g.top, a.leftBorderWidth = g.left;
+                    a.value.set(reinterpret_cast<const std::uint32_t*>(value)); // 16 bytes: four samples of any type
+                    ASSERT_EQ(m.call(a), zelStatusOk) << m.name;
+                    ASSERT_TRUE(dst.bytes() == want) << m.name << " geometry " << g.sw << "x" << g.sh << " in " << g.dw << "x"
+                                                     << g.dh << " at " << g.left << "," << g.top << " extra " << extra;
+                }
+    }
+    EXPECT_EQ(seen, 64);
 }
-
-
-// Both forms over every geometry, padded rows and both guard placements.
-// Copy: fn(src, srcStep, srcSize, dst, dstStep, dstSize, top, left, value).
-// In place (`ip`): the destination holds the source at (left, top); only the
-// frame may change: fn(srcDst, step, srcSize, dstSize, top, left).
-template <class T, class Call>
-void check(const std::string& name, Kind kind, int ch, bool ac4, bool ip, Call call) {
-    std::uint32_t seed = ip ? 99 : 3;
-    const T value[4] = {T(11), T(-7), T(100), T(42)};
-    for (const Geometry& g : kGeometries)
-        for (int extra : {0, 3})
-            for (zt::Flush flush : {zt::Flush::Head, zt::Flush::Tail}) {
-                zt::Image<T> src(ip ? 1 : g.sw, ip ? 1 : g.sh, ch, extra * int(sizeof(T)));
-                zt::Image<T> dst(g.dw, g.dh, ch, extra * 2 * int(sizeof(T)), flush, extra * sizeof(T));
-                src.fill_random(++seed);
-                dst.fill_random(++seed);
-                const auto old = dst.bytes();
-                auto at = [&](int x, int y, int c) {
-                    if (!ip) return src.at(x, y, c);
-                    T v;
-                    std::memcpy(&v, old.data() + std::size_t(y + g.top) * dst.step() + (std::size_t(x + g.left) * ch + c) * sizeof(T), sizeof(T));
-                    return v;
-                };
-                const auto want = expected<T>(kind, g, ch, ac4, dst.step(), old, at, value, ip);
-                if constexpr (std::is_invocable<Call, T*, int, ZeliSize, ZeliSize, int, int>::value)
-                    ASSERT_EQ(call(&dst.at(g.left, g.top), dst.step(), ZeliSize{g.sw, g.sh}, dst.size(), g.top, g.left), 0) << name;
-                else
-                    ASSERT_EQ(call(src.ptr(), src.step(), src.size(), dst.ptr(), dst.step(), dst.size(), g.top, g.left, value), 0) << name;
-                ASSERT_TRUE(dst.bytes() == want) << name << " geometry " << g.sw << "x" << g.sh << " in " << g.dw << "x" << g.dh
-                                                 << " at " << g.left << "," << g.top << " extra " << extra;
-            }
-}
-template <class T, class Call>
-void check_copy(const std::string& name, Kind kind, int ch, bool ac4, Call call) { check<T>(name, kind, ch, ac4, false, call); }
-template <class T, class Call>
-void check_in_place(const std::string& name, Kind kind, int ch, bool ac4, Call call) { check<T>(name, kind, ch, ac4, true, call); }
-
-#define LAYOUTS(M, T) M(T, C1, 1, false) M(T, C3, 3, false) M(T, C4, 4, false) M(T, AC4, 4, true)
-#define CONST_V(T, L, CH, AC, ARG)                                                                              \
-    check_copy<Zel##T>("zeliCopyConstBorder_" #T "_" #L "R", Kind::Const, CH, AC,                             \
-                       [](const Zel##T* s, int ss, ZeliSize sz, Zel##T* d, int ds, ZeliSize dz, int t, int l,  \
-                          const Zel##T* v) { return zeliCopyConstBorder_##T##_##L##R(s, ss, sz, d, ds, dz, t, l, ARG); });
-#define CONST(T)                                                                                                \
-    CONST_V(T, C1, 1, false, *v) CONST_V(T, C3, 3, false, v) CONST_V(T, C4, 4, false, v) CONST_V(T, AC4, 4, true, v)
-#define REPL(T, L, CH, AC)                                                                                      \
-    check_copy<Zel##T>("zeliCopyReplicateBorder_" #T "_" #L "R", Kind::Replicate, CH, AC,                     \
-                       [](const Zel##T* s, int ss, ZeliSize sz, Zel##T* d, int ds, ZeliSize dz, int t, int l,  \
-                          const Zel##T*) { return zeliCopyReplicateBorder_##T##_##L##R(s, ss, sz, d, ds, dz, t, l); }); \
-    check_in_place<Zel##T>("zeliCopyReplicateBorder_" #T "_" #L "IR", Kind::Replicate, CH, AC,                \
-                           zeliCopyReplicateBorder_##T##_##L##IR);
-#define ALL_TYPES(M) LAYOUTS(M, 8u) LAYOUTS(M, 16s) LAYOUTS(M, 16u) LAYOUTS(M, 32f) LAYOUTS(M, 32s)
-
-TEST(Border, Constant) { CONST(8u) CONST(16s) CONST(16u) CONST(32f) CONST(32s) }
-TEST(Border, Replicate) { ALL_TYPES(REPL) }
-
-#define WRAP(T)                                                                                                 \
-    check_copy<Zel##T>("zeliCopyWrapBorder_" #T "_C1R", Kind::Wrap, 1, false,                                 \
-                       [](const Zel##T* s, int ss, ZeliSize sz, Zel##T* d, int ds, ZeliSize dz, int t, int l,  \
-                          const Zel##T*) { return zeliCopyWrapBorder_##T##_C1R(s, ss, sz, d, ds, dz, t, l); });    \
-    check_in_place<Zel##T>("zeliCopyWrapBorder_" #T "_C1IR", Kind::Wrap, 1, false, zeliCopyWrapBorder_##T##_C1IR);
-TEST(Border, Wrap) { WRAP(32f) WRAP(32s) }
 
 TEST(Border, OneToOneCallOnOneBufferGoesInPlace) {
     for (int top : {0, 2})

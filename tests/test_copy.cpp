@@ -85,69 +85,6 @@ Image image(int w, int h, int samples, int sb, const Variant& v, bool src) {
     return Image(w * sb, h, samples, (src ? v.extraSrc : v.extraDst) * sb, v.flush, std::size_t(v.offset) * sb);
 }
 
-// A two-image form: source and destination samples a pixel, samples moved,
-// the first source sample spread over all of them (Dup), and the channel of
-// interest moving the source (s) or the destination (d) pointer.
-struct Move {
-    const char* op;
-    const char* form;
-    int sc, dc, n;
-    bool spread;
-    const char* coi;
-};
-const Move kMoves[] = {
-    {"Copy", "C1R", 1, 1, 1, false, ""},    {"Copy", "C3R", 3, 3, 3, false, ""},     {"Copy", "C4R", 4, 4, 4, false, ""},
-    {"Copy", "AC4R", 4, 4, 3, false, ""},   {"Copy", "AC4C3R", 4, 3, 3, false, ""},  {"Copy", "C3AC4R", 3, 4, 3, false, ""},
-    {"Copy", "C3CR", 3, 3, 1, false, "sd"}, {"Copy", "C4CR", 4, 4, 1, false, "sd"},  {"Copy", "C3C1R", 3, 1, 1, false, "s"},
-    {"Copy", "C4C1R", 4, 1, 1, false, "s"}, {"Copy", "C1C3R", 1, 3, 1, false, "d"},  {"Copy", "C1C4R", 1, 4, 1, false, "d"},
-    {"Dup", "C1C3R", 1, 3, 3, true, ""},    {"Dup", "C1C4R", 1, 4, 4, true, ""}};
-
-// The reference of one row of a move: samples are byte blocks of sb.
-void move_row(const Move& m, int sb, const u8* s, u8* d, int w) {
-    for (int x = 0; x < w; ++x)
-        for (int c = 0; c < m.n; ++c)
-            std::memcpy(d + (std::size_t(x) * m.dc + c) * sb, s + (std::size_t(x) * m.sc + (m.spread ? 0 : c)) * sb, sb);
-}
-
-TEST(Copy, EveryTwoImageFormAndType) {
-    std::uint32_t seed = 1;
-    for (const Move& m : kMoves)
-        for (const char* t : kTypes) {
-            if (std::string(m.op) == "Dup" && std::string(t) != "8u") continue;
-            const Fn& f = fn(m.op, t, m.form);
-            const int sb = sample_bytes(t);
-            const int k = std::string(m.coi).empty() ? 0 : (m.sc > 1 ? m.sc : m.dc) - 1; // the last channel
-            const int so = std::strchr(m.coi, 's') ? k * sb : 0, dof = std::strchr(m.coi, 'd') ? k * sb : 0;
-            for (const Variant& v : kVariants)
-                for (int w : zt::sweep_widths()) {
-                    const std::string at = std::string(m.op) + " " + t + " " + m.form + " width " + std::to_string(w);
-                    Image src = image(w, 3, m.sc, sb, v, true), dst = image(w, 3, m.dc, sb, v, false);
-                    src.fill_random(seed++);
-                    dst.fill_random(seed++);
-                    std::vector<u8> want = dst.bytes();
-                    for (int r = 0; r < 3; ++r) move_row(m, sb, src.row(r) + so, want.data() + std::size_t(r) * dst.step() + dof, w);
-                    ASSERT_EQ(f({src.ptr() + so, src.step(), dst.ptr() + dof, dst.step(), ZeliSize{w, 3}}), zelStatusOk) << at;
-                    ASSERT_EQ(dst.bytes(), want) << at << " variant " << (&v - kVariants);
-                }
-            // Rows walked by a negative destination step land upside down; by
-            // a zero step they all go to one row and the last one stays.
-            for (int w : {5, 100}) {
-                Image src(w * sb, 4, m.sc, 2 * sb), dst(w * sb, 4, m.dc), one(w * sb, 1, m.dc);
-                src.fill_random(seed++);
-                dst.fill_random(seed++);
-                std::vector<u8> want = dst.bytes(), wantOne = one.bytes();
-                for (int r = 0; r < 4; ++r) {
-                    move_row(m, sb, src.row(r) + so, want.data() + std::size_t(3 - r) * dst.step() + dof, w);
-                    move_row(m, sb, src.row(r) + so, wantOne.data() + dof, w);
-                }
-                ASSERT_EQ(f({src.ptr() + so, src.step(), dst.row(3) + dof, -dst.step(), ZeliSize{w, 4}}), zelStatusOk);
-                ASSERT_EQ(f({src.ptr() + so, src.step(), one.ptr() + dof, 0, ZeliSize{w, 4}}), zelStatusOk);
-                ASSERT_EQ(dst.bytes(), want) << m.form << " " << t << " negative step";
-                ASSERT_EQ(one.bytes(), wantOne) << m.form << " " << t << " zero step";
-            }
-        }
-}
-
 // Mask bytes in blocks of 16 that are all zero, all set (any non-zero value) or mixed.
 void fill_mask(Image& m, std::uint32_t seed) {
     std::mt19937 rng(seed);
@@ -161,42 +98,90 @@ void fill_mask(Image& m, std::uint32_t seed) {
         }
 }
 
-TEST(Copy, MaskedCopyAndSet) {
-    const char* forms[] = {"C1", "C3", "C4", "AC4"};
-    const int ch[] = {1, 3, 4, 4}, act[] = {1, 3, 4, 3};
-    std::uint32_t seed = 11;
-    for (const char* t : kTypes)
-        for (int form = 0; form < 4; ++form) {
-            const int sb = sample_bytes(t), c = ch[form];
-            const Fn& copy = fn("Copy", t, std::string(forms[form]) + "MR");
-            const Fn& set = fn("Set", t, std::string(forms[form]) + "MR");
-            u8 value[32];
-            for (int k = 0; k < 32; ++k) value[k] = u8(37 * k + 5);
+// A two-image form: source and destination samples a pixel, samples moved,
+// the first source sample spread over all of them (Dup), and the channel of
+// interest moving the source (s) or the destination (d) pointer. Set moves
+// its value (no source samples a pixel: every pixel reads the same value).
+// Masked forms move the pixels whose mask byte is not zero.
+struct Move {
+    const char* op;
+    const char* form;
+    int sc, dc, n;
+    bool spread;
+    const char* coi;
+    bool masked = false;
+};
+const Move kMoves[] = {
+    {"Copy", "C1R", 1, 1, 1, false, ""},    {"Copy", "C3R", 3, 3, 3, false, ""},     {"Copy", "C4R", 4, 4, 4, false, ""},
+    {"Copy", "AC4R", 4, 4, 3, false, ""},   {"Copy", "AC4C3R", 4, 3, 3, false, ""},  {"Copy", "C3AC4R", 3, 4, 3, false, ""},
+    {"Copy", "C3CR", 3, 3, 1, false, "sd"}, {"Copy", "C4CR", 4, 4, 1, false, "sd"},  {"Copy", "C3C1R", 3, 1, 1, false, "s"},
+    {"Copy", "C4C1R", 4, 1, 1, false, "s"}, {"Copy", "C1C3R", 1, 3, 1, false, "d"},  {"Copy", "C1C4R", 1, 4, 1, false, "d"},
+    {"Dup", "C1C3R", 1, 3, 3, true, ""},    {"Dup", "C1C4R", 1, 4, 4, true, ""},     {"Set", "C1R", 0, 1, 1, false, ""},
+    {"Set", "C3R", 0, 3, 3, false, ""},     {"Set", "C4R", 0, 4, 4, false, ""},      {"Set", "AC4R", 0, 4, 3, false, ""},
+    {"Set", "C3CR", 0, 3, 1, false, "d"},   {"Set", "C4CR", 0, 4, 1, false, "d"},    {"Copy", "C1MR", 1, 1, 1, false, "", true},
+    {"Copy", "C3MR", 3, 3, 3, false, "", true}, {"Copy", "C4MR", 4, 4, 4, false, "", true}, {"Copy", "AC4MR", 4, 4, 3, false, "", true},
+    {"Set", "C1MR", 0, 1, 1, false, "", true},  {"Set", "C3MR", 0, 3, 3, false, "", true},  {"Set", "C4MR", 0, 4, 4, false, "", true},
+    {"Set", "AC4MR", 0, 4, 3, false, "", true}, {"CopyManaged", "C1R", 1, 1, 1, false, ""}};
+
+// The reference of one row of a move: samples are byte blocks of sb.
+void move_row(const Move& m, int sb, const u8* s, u8* d, int w, const u8* mask) {
+    for (int x = 0; x < w; ++x)
+        for (int c = 0; c < m.n && (!m.masked || mask[x]); ++c)
+            std::memcpy(d + (std::size_t(x) * m.dc + c) * sb, s + (std::size_t(x) * m.sc + (m.spread ? 0 : c)) * sb, sb);
+}
+
+TEST(Copy, EveryFormMaskedOrNot) {
+    std::uint32_t seed = 1;
+    u8 value[16];
+    for (int k = 0; k < 16; ++k) value[k] = u8(11 * k + 3);
+    for (const Move& m : kMoves)
+        for (const char* t : kTypes) {
+            const bool managed = std::string(m.op) == "CopyManaged"; // flags from the width
+            if ((managed || std::string(m.op) == "Dup") && std::string(t) != "8u") continue;
+            const Fn& f = fn(m.op, t, m.form);
+            const int sb = sample_bytes(t), sc = m.sc ? m.sc : 1;
+            const int k = std::string(m.coi).empty() ? 0 : (m.sc > 1 ? m.sc : m.dc) - 1; // the last channel
+            const int so = std::strchr(m.coi, 's') ? k * sb : 0, dof = std::strchr(m.coi, 'd') ? k * sb : 0;
+            const Arg val = m.n == 1 ? Arg::bytes(value, sb) : Arg(value);
+            // one call: from the source rows (or the value) to the destination rows
+            auto run = [&](const Image& src, u8* dst, int dstStep, int h, int w, const Image& mask) {
+                Args a = m.sc ? Args{src.ptr() + so, src.step(), dst + dof, dstStep, ZeliSize{w, h}} : Args{val, dst + dof, dstStep, ZeliSize{w, h}};
+                if (m.masked) a.push_back(mask.ptr()), a.push_back(mask.step());
+                if (managed) a.push_back(w % 4);
+                return f(a);
+            };
+            auto row = [&](const Image& src, int r) { return m.sc ? src.row(r) + so : value; };
             for (const Variant& v : kVariants)
                 for (int w : zt::sweep_widths()) {
-                    Image src = image(w, 3, c, sb, v, true), dst = image(w, 3, c, sb, v, false);
+                    const std::string at = std::string(m.op) + " " + t + " " + m.form + " width " + std::to_string(w);
+                    Image src = image(w, 3, sc, sb, v, true), dst = image(w, 3, m.dc, sb, v, false);
                     Image mask(w, 3, 1, v.extraSrc, v.flush, v.offset);
                     src.fill_random(seed++);
                     dst.fill_random(seed++);
                     fill_mask(mask, seed++);
                     std::vector<u8> want = dst.bytes();
-                    auto masked = [&](auto sample) {
-                        for (int y = 0; y < 3; ++y)
-                            for (int x = 0; x < w; ++x)
-                                if (mask.at(x, y))
-                                    for (int k = 0; k < act[form]; ++k)
-                                        std::memcpy(want.data() + std::size_t(y) * dst.step() + (std::size_t(x) * c + k) * sb,
-                                                    sample(x, y, k), sb);
-                    };
-                    masked([&](int x, int y, int k) { return src.row(y) + (std::size_t(x) * c + k) * sb; });
-                    const ZeliSize roi{w, 3};
-                    ASSERT_EQ(copy({src.ptr(), src.step(), dst.ptr(), dst.step(), roi, mask.ptr(), mask.step()}), zelStatusOk);
-                    ASSERT_EQ(dst.bytes(), want) << "masked copy " << t << " " << forms[form] << " width " << w;
-                    masked([&](int, int, int k) { return value + k * sb; });
-                    const Arg val = form == 0 ? Arg::bytes(value, sb) : Arg(value);
-                    ASSERT_EQ(set({val, dst.ptr(), dst.step(), roi, mask.ptr(), mask.step()}), zelStatusOk);
-                    ASSERT_EQ(dst.bytes(), want) << "masked set " << t << " " << forms[form] << " width " << w;
+                    for (int r = 0; r < 3; ++r)
+                        move_row(m, sb, row(src, r), want.data() + std::size_t(r) * dst.step() + dof, w, mask.row(r));
+                    ASSERT_EQ(run(src, dst.ptr(), dst.step(), 3, w, mask), zelStatusOk) << at;
+                    ASSERT_EQ(dst.bytes(), want) << at << " variant " << (&v - kVariants);
                 }
+            // Rows walked by a negative destination step land upside down; by
+            // a zero step they all go to one row and the last one stays.
+            for (int w : {5, 100}) {
+                Image src(w * sb, 4, sc, 2 * sb), dst(w * sb, 4, m.dc), one(w * sb, 1, m.dc), mask(w, 4, 1, 1);
+                src.fill_random(seed++);
+                dst.fill_random(seed++);
+                fill_mask(mask, seed++);
+                std::vector<u8> want = dst.bytes(), wantOne = one.bytes();
+                for (int r = 0; r < 4; ++r) {
+                    move_row(m, sb, row(src, r), want.data() + std::size_t(3 - r) * dst.step() + dof, w, mask.row(r));
+                    move_row(m, sb, row(src, r), wantOne.data() + dof, w, mask.row(r));
+                }
+                ASSERT_EQ(run(src, dst.row(3), -dst.step(), 4, w, mask), zelStatusOk);
+                ASSERT_EQ(run(src, one.ptr(), 0, 4, w, mask), zelStatusOk);
+                ASSERT_EQ(dst.bytes(), want) << m.form << " " << t << " negative step";
+                ASSERT_EQ(one.bytes(), wantOne) << m.form << " " << t << " zero step";
+            }
         }
 }
 
@@ -232,33 +217,6 @@ TEST(Copy, PlanarBothWays) {
                                 std::memcpy(want.data() + std::size_t(y) * inter.step() + (x * c + k) * sb, planes[k].row(y) + x * sb, sb);
                     ASSERT_EQ(join({pp, ps, inter.ptr(), inter.step(), ZeliSize{w, 3}}), zelStatusOk);
                     ASSERT_EQ(inter.bytes(), want) << "from planes " << t << " C" << c << " width " << w;
-                }
-        }
-}
-
-TEST(Copy, SetForms) {
-    // form, samples a pixel, values written, first channel written
-    struct SetForm { const char* form; int c, n, k0; };
-    const SetForm forms[] = {{"C1R", 1, 1, 0}, {"C3R", 3, 3, 0}, {"C4R", 4, 4, 0}, {"AC4R", 4, 3, 0}, {"C3CR", 3, 1, 1}, {"C4CR", 4, 1, 3}};
-    std::uint32_t seed = 31;
-    for (const char* t : kTypes)
-        for (const SetForm& f : forms) {
-            const int sb = sample_bytes(t);
-            u8 value[16];
-            for (int k = 0; k < 16; ++k) value[k] = u8(11 * k + 3);
-            const bool one = f.n == 1;
-            for (const Variant& v : kVariants)
-                for (int w : zt::sweep_widths()) {
-                    Image dst = image(w, 3, f.c, sb, v, false);
-                    dst.fill_random(seed++);
-                    std::vector<u8> want = dst.bytes();
-                    for (int y = 0; y < 3; ++y)
-                        for (int x = 0; x < w; ++x)
-                            for (int k = 0; k < f.n; ++k)
-                                std::memcpy(want.data() + std::size_t(y) * dst.step() + (std::size_t(x) * f.c + k + f.k0) * sb, value + k * sb, sb);
-                    const Arg val = one ? Arg::bytes(value, sb) : Arg(value);
-                    ASSERT_EQ(fn("Set", t, f.form)({val, dst.ptr() + f.k0 * sb, dst.step(), ZeliSize{w, 3}}), zelStatusOk);
-                    ASSERT_EQ(dst.bytes(), want) << "set " << t << " " << f.form << " width " << w;
                 }
         }
 }
@@ -308,20 +266,6 @@ TEST(Copy, StatusOrder) {
         }
     }
     EXPECT_EQ(b.bytes(), before);
-}
-
-// Managed copy with every flag combination, over short rows and long ones
-// (the 64-byte rounds after the alignment steps), at several misalignments.
-TEST(Copy, Managed) {
-    for (int flags = 0; flags < 4; ++flags)
-        for (int w : {1, 17, 63, 64, 100, 1000, 4099})
-            for (int off : {0, 5, 13}) {
-                Image src(w, 3, 1, off, zt::Flush::Head, off), dst(w, 3, 1, 3 * off, zt::Flush::Head, 64 - off);
-                src.fill_random(w);
-                dst.fill_random(w + 1);
-                ASSERT_EQ(zeliCopyManaged_8u_C1R(src.ptr(), src.step(), dst.ptr(), dst.step(), {w, 3}, flags), zelStatusOk);
-                for (int r = 0; r < 3; ++r) ASSERT_EQ(std::memcmp(src.row(r), dst.row(r), w), 0) << flags << " " << w;
-            }
 }
 
 // A small cache size makes large copies, fills and planar copies take their

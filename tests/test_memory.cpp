@@ -8,83 +8,50 @@
 
 namespace {
 
-template <class T>
-using MallocFn = T* (*)(int, int, int*);
+// Every zeliMalloc_<type>_<layout> of the list: rows 64 bytes apart at the
+// least, 64-byte aligned, the whole block writable; bad sizes and a null
+// step pointer give NULL and a step of 0.
+struct Malloc {
+    const char* name;
+    void (*any)(); // the member, whatever its type
+    void* fn(int w, int h, int* step) const { return reinterpret_cast<void* (*)(int, int, int*)>(any)(w, h, step); }
+};
+const Malloc kMallocs[] = {
+#define ZEL_FN(ret, name, params, args, impl) {#name, reinterpret_cast<void (*)()>(name)},
+#include "zelip8/fn_memory.h"
+#undef ZEL_FN
+};
 
-template <class T>
-void check_malloc(MallocFn<T> fn, int pixelBytes) {
-    for (int w : {1, 2, 3, 21, 22, 63, 64, 65, 1000}) {
-        for (int h : {1, 2, 7}) {
-            int step = -1;
-            T* p = fn(w, h, &step);
-            ASSERT_NE(p, nullptr);
-            EXPECT_EQ(step, (w * pixelBytes + 63) / 64 * 64) << "width " << w;
-            EXPECT_EQ(reinterpret_cast<std::uintptr_t>(p) % 64, 0u);
-            std::memset(p, 0x5a, std::size_t(step) * h); // the whole block is ours
-            zeliFree(p);
-        }
-    }
-    int step = 123;
-    EXPECT_EQ(fn(0, 5, &step), nullptr);
-    EXPECT_EQ(step, 0);
-    step = 123;
-    EXPECT_EQ(fn(5, -1, &step), nullptr);
-    EXPECT_EQ(step, 0);
-    EXPECT_EQ(fn(5, 5, nullptr), nullptr);
+int pixel_bytes(const std::string& name) {
+    const std::string t = name.substr(11, name.rfind('_') - 11), lay = name.substr(name.rfind('_') + 1);
+    const int sample = (t == "8u" ? 1 : t[0] == '1' ? 2 : 4) * (t.back() == 'c' ? 2 : 1);
+    return sample * (lay == "AC4" ? 4 : lay[1] - '0');
 }
 
 TEST(Memory, MallocStepsForEveryMember) {
-    check_malloc<Zel8u>(zeliMalloc_8u_C1, 1);
-    check_malloc<Zel8u>(zeliMalloc_8u_C2, 2);
-    check_malloc<Zel8u>(zeliMalloc_8u_C3, 3);
-    check_malloc<Zel8u>(zeliMalloc_8u_C4, 4);
-    check_malloc<Zel8u>(zeliMalloc_8u_AC4, 4);
-    check_malloc<Zel16u>(zeliMalloc_16u_C1, 2);
-    check_malloc<Zel16u>(zeliMalloc_16u_C2, 4);
-    check_malloc<Zel16u>(zeliMalloc_16u_C3, 6);
-    check_malloc<Zel16u>(zeliMalloc_16u_C4, 8);
-    check_malloc<Zel16u>(zeliMalloc_16u_AC4, 8);
-    check_malloc<Zel16s>(zeliMalloc_16s_C1, 2);
-    check_malloc<Zel16s>(zeliMalloc_16s_C2, 4);
-    check_malloc<Zel16s>(zeliMalloc_16s_C3, 6);
-    check_malloc<Zel16s>(zeliMalloc_16s_C4, 8);
-    check_malloc<Zel16s>(zeliMalloc_16s_AC4, 8);
-    check_malloc<Zel32s>(zeliMalloc_32s_C1, 4);
-    check_malloc<Zel32s>(zeliMalloc_32s_C2, 8);
-    check_malloc<Zel32s>(zeliMalloc_32s_C3, 12);
-    check_malloc<Zel32s>(zeliMalloc_32s_C4, 16);
-    check_malloc<Zel32s>(zeliMalloc_32s_AC4, 16);
-    check_malloc<Zel32f>(zeliMalloc_32f_C1, 4);
-    check_malloc<Zel32f>(zeliMalloc_32f_C2, 8);
-    check_malloc<Zel32f>(zeliMalloc_32f_C3, 12);
-    check_malloc<Zel32f>(zeliMalloc_32f_C4, 16);
-    check_malloc<Zel32f>(zeliMalloc_32f_AC4, 16);
-    check_malloc<Zel32sc>(zeliMalloc_32sc_C1, 8);
-    check_malloc<Zel32sc>(zeliMalloc_32sc_C2, 16);
-    check_malloc<Zel32sc>(zeliMalloc_32sc_C3, 24);
-    check_malloc<Zel32sc>(zeliMalloc_32sc_C4, 32);
-    check_malloc<Zel32sc>(zeliMalloc_32sc_AC4, 32);
-    check_malloc<Zel32fc>(zeliMalloc_32fc_C1, 8);
-    check_malloc<Zel32fc>(zeliMalloc_32fc_C2, 16);
-    check_malloc<Zel32fc>(zeliMalloc_32fc_C3, 24);
-    check_malloc<Zel32fc>(zeliMalloc_32fc_C4, 32);
-    check_malloc<Zel32fc>(zeliMalloc_32fc_AC4, 32);
-}
-
-TEST(Memory, DocumentedSteps) {
-    int step = 0;
-    Zel8u* p = zeliMalloc_8u_C1(1, 1, &step);
-    EXPECT_EQ(step, 64);
-    zeliFree(p);
-    p = zeliMalloc_8u_C3(22, 1, &step);
-    EXPECT_EQ(step, 128);
-    zeliFree(p);
-    p = zeliMalloc_8u_C3(21, 1, &step);
-    EXPECT_EQ(step, 64);
-    zeliFree(p);
-    Zel32fc* c = zeliMalloc_32fc_C4(2, 3, &step);
-    EXPECT_EQ(step, 64);
-    zeliFree(c);
+    int seen = 0;
+    for (const Malloc& m : kMallocs) {
+        if (std::strncmp(m.name, "zeliMalloc_", 11) != 0) continue;
+        ++seen;
+        const int pb = pixel_bytes(m.name);
+        for (int w : {1, 2, 3, 21, 22, 63, 64, 65, 1000})
+            for (int h : {1, 2, 7}) {
+                int step = -1;
+                void* p = m.fn(w, h, &step);
+                ASSERT_NE(p, nullptr) << m.name;
+                EXPECT_EQ(step, (w * pb + 63) / 64 * 64) << m.name << " width " << w;
+                EXPECT_EQ(reinterpret_cast<std::uintptr_t>(p) % 64, 0u) << m.name;
+                std::memset(p, 0x5a, std::size_t(step) * h); // the whole block is ours
+                zeliFree(p);
+            }
+        for (ZeliSize bad : {ZeliSize{0, 5}, ZeliSize{5, -1}}) {
+            int step = 123;
+            EXPECT_EQ(m.fn(bad.width, bad.height, &step), nullptr) << m.name;
+            EXPECT_EQ(step, 0) << m.name;
+        }
+        EXPECT_EQ(m.fn(5, 5, nullptr), nullptr) << m.name;
+    }
+    EXPECT_EQ(seen, 35);
     zeliFree(nullptr); // harmless
 }
 
@@ -113,32 +80,23 @@ TEST(Memory, LargeSizesAreServedWholeOrRefused) {
     }
 }
 
-// The header's version, the version record and the build's package version agree.
-TEST(Memory, VersionMacrosMatchTheRecord) {
-    const ZelLibraryVersion* v = zeliGetLibVersion();
-    EXPECT_EQ(v->major, ZELIP8_VERSION_MAJOR);
-    EXPECT_EQ(v->minor, ZELIP8_VERSION_MINOR);
-    EXPECT_EQ(v->majorBuild, ZELIP8_VERSION_PATCH);
-    const std::string dotted = std::to_string(ZELIP8_VERSION_MAJOR) + "." + std::to_string(ZELIP8_VERSION_MINOR) +
-                               "." + std::to_string(ZELIP8_VERSION_PATCH);
-    EXPECT_EQ(std::string(v->version).substr(0, dotted.size() + 1), dotted + " ");
-    EXPECT_EQ(dotted, ZEL_PACKAGE_VERSION);
-    EXPECT_EQ(ZELIP8_VERSION, ZELIP8_MAKE_VERSION(7, 1, 1));
-}
-
+// The version record, the header's version macros and the build's package version agree.
 TEST(Memory, VersionRecord) {
     const ZelLibraryVersion* v = zeliGetLibVersion();
     ASSERT_NE(v, nullptr);
+    EXPECT_EQ(zeliGetLibVersion(), v);
     EXPECT_EQ(v->major, 7);
     EXPECT_EQ(v->minor, 1);
     EXPECT_EQ(v->majorBuild, 1);
     EXPECT_EQ(v->build, 37466);
+    EXPECT_EQ(ZELIP8_MAKE_VERSION(ZELIP8_VERSION_MAJOR, ZELIP8_VERSION_MINOR, ZELIP8_VERSION_PATCH),
+              ZELIP8_MAKE_VERSION(v->major, v->minor, v->majorBuild));
+    EXPECT_EQ(ZELIP8_VERSION, ZELIP8_MAKE_VERSION(7, 1, 1));
     EXPECT_EQ(std::memcmp(v->targetCpu, "p8\0\0", 4), 0);
+    EXPECT_EQ(std::string(v->version), std::string(ZEL_PACKAGE_VERSION) + " (r37466)");
     EXPECT_STREQ(v->version, "7.1.1 (r37466)");
     EXPECT_STREQ(v->buildDate, "Sep 24 2012");
-    const std::string expected = ownGetFeature(128, 0) ? "zelIP SSE4.1/4.2 (p8)+" : "zelIP SSE4.1/4.2 (p8)";
-    EXPECT_EQ(v->name, expected);
-    EXPECT_EQ(zeliGetLibVersion(), v);
+    EXPECT_EQ(v->name, std::string(ownGetFeature(128, 0) ? "zelIP SSE4.1/4.2 (p8)+" : "zelIP SSE4.1/4.2 (p8)"));
 }
 
 TEST(Core, ThreadCountAndCacheSettings) {

@@ -1,7 +1,7 @@
 // Minimum and maximum families against plain references: extreme values,
 // the top-most then left-most position of each channel's extreme, the lane
 // model of Zel32f NaN, and the pixelwise in-place forms.
-#include "guard.hpp"
+#include "family_util.hpp"
 
 #include <gtest/gtest.h>
 
@@ -37,8 +37,6 @@ void fill(zt::Image<T>& im, std::uint32_t seed, bool narrow, bool nan = false) {
         }
 }
 
-template <class T>
-bool same(T a, T b) { return std::memcmp(&a, &b, sizeof a) == 0; }
 
 // ---- References ------------------------------------------------------------
 
@@ -106,23 +104,13 @@ void check_scans_on(const Members<T>& m, const zt::Image<T>& im) {
     for (int c = 0; c < f.ac; ++c) {
         const auto rmin = ref_indx<T, true>(im, c), rmax = ref_indx<T, false>(im, c);
         SCOPED_TRACE(testing::Message() << "w " << im.width() << " h " << im.height() << " c " << c);
-        EXPECT_TRUE(same(lo[c], ref_scan<true>(im, f, c)));
-        EXPECT_TRUE(same(hi[c], ref_scan<false>(im, f, c)));
-        EXPECT_TRUE(same(lo2[c], lo[c]));
-        EXPECT_TRUE(same(hi2[c], hi[c]));
-        EXPECT_TRUE(same(vi[c], rmin.v));
-        EXPECT_TRUE(same(va[c], rmax.v));
-        EXPECT_EQ(xi[c], rmin.x);
-        EXPECT_EQ(yi[c], rmin.y);
-        EXPECT_EQ(xa[c], rmax.x);
-        EXPECT_EQ(ya[c], rmax.y);
+        EXPECT_TRUE(zt::same_bits(lo[c], ref_scan<true>(im, f, c)) && zt::same_bits(lo2[c], lo[c])) << double(lo[c]) << " " << double(lo2[c]);
+        EXPECT_TRUE(zt::same_bits(hi[c], ref_scan<false>(im, f, c)) && zt::same_bits(hi2[c], hi[c])) << double(hi[c]) << " " << double(hi2[c]);
+        EXPECT_TRUE(zt::same_bits(vi[c], rmin.v) && xi[c] == rmin.x && yi[c] == rmin.y) << double(vi[c]) << " at " << xi[c] << "," << yi[c];
+        EXPECT_TRUE(zt::same_bits(va[c], rmax.v) && xa[c] == rmax.x && ya[c] == rmax.y) << double(va[c]) << " at " << xa[c] << "," << ya[c];
     }
-    for (int c = f.ac; c < 5; ++c) {
-        EXPECT_EQ(lo[c], T(77));
-        EXPECT_EQ(hi2[c], T(77));
-        EXPECT_EQ(xi[c], -9);
-        EXPECT_EQ(ya[c], -9);
-    }
+    for (int c = f.ac; c < 5; ++c)
+        EXPECT_TRUE(lo[c] == T(77) && hi2[c] == T(77) && xi[c] == -9 && ya[c] == -9) << "wrote past the channels";
 }
 
 template <class T>
@@ -158,12 +146,7 @@ void check_scans(const Members<T>& m) {
                          zeliMinIndx_##T##_##L##R, zeliMaxIndx_##T##_##L##R, zt::F});
 #define SCAN_TYPE(T) SCAN_MEMBERS(T, C1, kC1) SCAN_MEMBERS(T, C3, kC3) SCAN_MEMBERS(T, C4, kC4) SCAN_MEMBERS(T, AC4, kAC4)
 
-TEST(MinMax, ValuesAndIndices) {
-    SCAN_TYPE(8u)
-    SCAN_TYPE(16u)
-    SCAN_TYPE(16s)
-    SCAN_TYPE(32f)
-}
+TEST(MinMax, ValuesAndIndices) { SCAN_TYPE(8u) SCAN_TYPE(16u) SCAN_TYPE(16s) SCAN_TYPE(32f) }
 
 // Only +inf or only NaN: the index scans report the largest finite value at
 // 0, 0 (a search that finds nothing).
@@ -220,11 +203,6 @@ void check_every(EveryFn<T> fn, Form f) {
     check_every<Zel##T, M>(zeli##Op##Every_##T##_AC4IR, zt::kAC4);
 #define EVERY_MEMBERS(T) EVERY_OP(T, Min, true) EVERY_OP(T, Max, false)
 
-TEST(MinMaxEvery, AllMembers) {
-    EVERY_MEMBERS(8u)
-    EVERY_MEMBERS(16u)
-    EVERY_MEMBERS(16s)
-    EVERY_MEMBERS(32f)
-}
+TEST(MinMaxEvery, AllMembers) { EVERY_MEMBERS(8u) EVERY_MEMBERS(16u) EVERY_MEMBERS(16s) EVERY_MEMBERS(32f) }
 
 } // namespace

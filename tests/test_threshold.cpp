@@ -2,6 +2,7 @@
 // written here: the sweep shapes, in place and not, AC4 alpha and NaN samples
 // kept, large 16u images at two threads with streamed rows; the order of
 // status checks; Otsu's level against a direct search.
+#include "family_util.hpp"
 #include "named_args.hpp"
 
 #include <gtest/gtest.h>
@@ -42,9 +43,6 @@ T sample(std::mt19937& rng) {
     return std::is_same<T, Zel16s>::value ? T(v - 128) : std::is_same<T, Zel16u>::value ? T(v * 200) : T(v);
 }
 
-template <class T>
-bool same(T a, T b) { return std::memcmp(&a, &b, sizeof(T)) == 0; }
-
 // One call of member m on fresh images of shape sh, every sample checked.
 template <class T>
 void check(const zt::Named& m, const zt::Shape& sh, int op, std::mt19937& rng) {
@@ -71,7 +69,7 @@ void check(const zt::Named& m, const zt::Shape& sh, int op, std::mt19937& rng) {
     ASSERT_EQ(m.call(a), zelStatusOk) << m.name;
     for (std::size_t k = 0; k < src.size(); ++k) {
         const T want = int(k % C) < n.active ? rule(n.variant, op, src[k], p, int(k % C)) : old[k];
-        ASSERT_TRUE(same(d.row(int(k / row))[k % row], want)) << m.name << " " << sh.w << "x" << sh.h << " sample " << k;
+        ASSERT_TRUE(zt::same_bits(d.row(int(k / row))[k % row], want)) << m.name << " " << sh.w << "x" << sh.h << " sample " << k;
     }
 }
 
@@ -83,10 +81,7 @@ void check_all(const std::vector<zt::Shape>& shapes, const std::string& types, s
         if (n.family != "Threshold" || types.find(n.type) == std::string::npos) continue;
         for (const zt::Shape& s : shapes)
             for (int op : {zelCmpLess, zelCmpGreater}) {
-                if (n.type == "8u") check<Zel8u>(m, s, op, rng);
-                else if (n.type == "16u") check<Zel16u>(m, s, op, rng);
-                else if (n.type == "16s") check<Zel16s>(m, s, op, rng);
-                else check<Zel32f>(m, s, op, rng);
+                ASSERT_TRUE(zt::with_type(n.type, [&](auto t) { check<decltype(t)>(m, s, op, rng); })) << m.name;
                 if (n.variant != "" && n.variant != "Val") break;
             }
     }

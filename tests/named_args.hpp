@@ -84,6 +84,7 @@ inline NameParts name_parts(const std::string& name) {
     }
     NameParts n;
     n.family = part.front();
+    if (part.size() < 3) return n; // no type and layout (zeliFree, zeliGetLibVersion, ...)
     if (part.size() > 3) n.variant = part[1];
     n.type = part[part.size() - 2];
     n.sampleBytes = n.type == "8u" ? 1 : n.type[0] == '1' ? 2 : 4;
